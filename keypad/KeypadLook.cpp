@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "KeypadLook_p.h"
+
+#include "FittedText_p.h"
+#include "HMIDeviceInfo.h"
+#include "KeyBoardLineEdit.h"
+
+#include <QDialog>
+#include <QFontInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace Keypad {
+
+namespace {
+
+const DeviceType darkSchemeType = 13;
+
+const QRgb darkBlue = qRgb(15, 15, 70);
+const QRgb green = qRgb(0, 255, 0);
+const QRgb yellow = qRgb(255, 255, 0);
+
+const int keyPoints = 28;
+const int tipPoints = 20;
+const QSize unplacedSize(320, 240); // pixels, until the first placement over a view
+
+struct RoleColour
+{
+    QPalette::ColorGroup group;
+    QPalette::ColorRole role;
+    QRgb colour;
+};
+
+const RoleColour dialogColours[] = { { QPalette::All, QPalette::Window, darkBlue } };
+
+const RoleColour labelColours[] = { { QPalette::All, QPalette::WindowText, green } };
+
+const RoleColour editLineColours[] = { { QPalette::All, QPalette::Base, darkBlue },
+                                       { QPalette::All, QPalette::Text, yellow },
+                                       { QPalette::All, QPalette::Highlight, yellow },
+                                       { QPalette::All, QPalette::HighlightedText, darkBlue } };
+
+// The disabled group keeps the style's text colour, so that a disabled key looks dimmed.
+const RoleColour keyColours[] = { { QPalette::Active, QPalette::ButtonText, green },
+                                  { QPalette::Inactive, QPalette::ButtonText, green },
+                                  { QPalette::All, QPalette::Button, darkBlue } };
+
+template <int count>
+void applyDarkScheme(QWidget *widget, const RoleColour (&colours)[count])
+{
+    if (HMIDeviceInfo::deviceType() != darkSchemeType)
+        return;
+    QPalette palette(widget->palette());
+    for (int i = 0; i < count; ++i)
+        palette.setColor(colours[i].group, colours[i].role, QColor(colours[i].colour));
+    widget->setPalette(palette);
+}
+
+} // namespace
+
+void colourDialog(QWidget *dialog)
+{
+    applyDarkScheme(dialog, dialogColours);
+}
+
+void colourLabel(QLabel *label)
+{
+    applyDarkScheme(label, labelColours);
+}
+
+void colourEditLine(QLineEdit *editLine)
+{
+    applyDarkScheme(editLine, editLineColours);
+}
+
+void colourKey(QToolButton *key)
+{
+    applyDarkScheme(key, keyColours);
+}
+
+QFont font(int points)
+{
+    const QString family = QFontInfo(QFont(QString::fromLatin1("simsun"))).family();
+    QFont font(family, points);
+    font.setPixelSize(qRound(points * 96 / 72.0f));
+    return font;
+}
+
+void setUpLayout(QLayout *layout, int spacing)
+{
+    layout->setSpacing(spacing);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+}
+
+QToolButton *createKey(QWidget *parent, const QString &label)
+{
+    QToolButton *key = new KeyButton(parent);
+    key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    key->setText(label);
+    colourKey(key);
+    return key;
+}
+
+KeyBoardLineEdit *createEditLine(QDialog *keypad)
+{
+    KeyBoardLineEdit *editLine = new KeyBoardLineEdit(keypad);
+    colourEditLine(editLine);
+    editLine->setContextMenuPolicy(Qt::NoContextMenu);
+    editLine->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return editLine;
+}
+
+QGridLayout *setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine)
+{
+    QVBoxLayout *layout = new QVBoxLayout(keypad);
+    setUpLayout(layout, 0);
+    colourDialog(keypad);
+    *tipLabel = new FittedLabel<QLabel>(QString(), keypad, 1);
+    colourLabel(*tipLabel);
+    layout->addWidget(*tipLabel);
+    *editLine = createEditLine(keypad);
+    layout->addWidget(*editLine);
+    QGridLayout *grid = new QGridLayout;
+    setUpLayout(grid, 1);
+    layout->addLayout(grid);
+    return grid;
+}
+
+void finishFixedFace(QDialog *keypad, QLabel *tipLabel)
+{
+    tipLabel->hide();
+    keypad->setFont(font(keyPoints));
+    tipLabel->setFont(font(tipPoints));
+    keypad->resize(unplacedSize);
+}
+
+} // namespace Keypad

@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "KeypadRules_p.h"
+
+#include "HMIDeviceInfo.h"
+
+#include <QDialog>
+#include <QGraphicsView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QVariant>
+
+namespace Keypad {
+
+namespace {
+
+const DeviceType handingOnType = 13;
+const int unlimitedLength = 32767;
+
+// The application's keys on a panel of type 13; the gaps are keys of the keypad's own dialog.
+const int applicationKeys[] = {
+    Qt::Key_Up,  Qt::Key_Down, Qt::Key_F1,  Qt::Key_F2,  Qt::Key_F3,  Qt::Key_F4,
+    Qt::Key_F5,  Qt::Key_F9,   Qt::Key_F10, Qt::Key_F11, Qt::Key_F13, Qt::Key_F17,
+    Qt::Key_F18, Qt::Key_F20,  Qt::Key_F25, Qt::Key_F26, Qt::Key_F27, Qt::Key_F32,
+};
+
+bool isApplicationKey(int key)
+{
+    const int count = int(sizeof(applicationKeys) / sizeof(applicationKeys[0]));
+    for (int i = 0; i < count; ++i) {
+        if (applicationKeys[i] == key)
+            return true;
+    }
+    return false;
+}
+
+void resetEditLine(QLineEdit *editLine)
+{
+    editLine->setEchoMode(QLineEdit::Normal);
+    editLine->setMaxLength(unlimitedLength);
+}
+
+void enableKeys(QWidget *keypad)
+{
+    const QList<QToolButton *> keys = keypad->findChildren<QToolButton *>();
+    for (int i = 0; i < keys.size(); ++i)
+        keys.at(i)->setEnabled(true);
+}
+
+void moveCursor(QLineEdit *editLine, int step)
+{
+    editLine->setCursorPosition(editLine->cursorPosition() + step);
+}
+
+} // namespace
+
+void bindTarget(QObject *object, QPointer<QObject> *target, QLineEdit *editLine,
+                KeyEnabling enabling)
+{
+    if (!object)
+        return;
+    *target = object;
+    object->blockSignals(true);
+    resetEditLine(editLine);
+    if (enabling == EnableKeys)
+        enableKeys(editLine->parentWidget());
+    object->blockSignals(false);
+}
+
+void showText(QLineEdit *editLine, const QString &text)
+{
+    editLine->clear();
+    editLine->setText(text);
+    editLine->selectAll();
+}
+
+void setPasswordEcho(QLineEdit *editLine, bool on)
+{
+    editLine->setEchoMode(on ? QLineEdit::Password : QLineEdit::Normal);
+}
+
+void showLimits(QLabel *tipLabel, const QString &text)
+{
+    if (!text.isEmpty())
+        tipLabel->setText(text);
+    tipLabel->setVisible(!text.isEmpty());
+}
+
+void confirm(QDialog *keypad, QObject *target, const QLineEdit *editLine)
+{
+    if (!target)
+        return;
+    target->setProperty("text", QVariant(editLine->text()));
+    keypad->accept();
+}
+
+void act(KeyAction action, const QString &label, QDialog *keypad, QObject *target,
+         QLineEdit *editLine)
+{
+    switch (action) {
+    case InsertLabel:
+        editLine->insert(label);
+        break;
+    case InsertSpace:
+        editLine->insert(QString(QLatin1Char(' ')));
+        break;
+    case ToggleSign:
+        toggleSign(editLine);
+        break;
+    case MoveLeft:
+        moveCursor(editLine, -1);
+        break;
+    case MoveRight:
+        moveCursor(editLine, 1);
+        break;
+    case Backspace:
+        editLine->backspace();
+        break;
+    case Cancel:
+        keypad->reject();
+        break;
+    case Confirm:
+        confirm(keypad, target, editLine);
+        break;
+    }
+}
+
+void toggleSign(QLineEdit *editLine)
+{
+    const QString minus(QLatin1Char('-'));
+    QString text = editLine->text();
+    int cursor = editLine->cursorPosition();
+    const bool selected = editLine->hasSelectedText();
+
+    if (text.startsWith(minus)) {
+        text.remove(minus);
+        --cursor;
+    } else {
+        text.prepend(minus);
+        ++cursor;
+    }
+    editLine->setText(text);
+    editLine->setCursorPosition(cursor);
+    if (selected)
+        editLine->selectAll();
+}
+
+QRect coveredRect(const QGraphicsView *view)
+{
+    const QWidget *viewport = view->viewport();
+    const QRect rect = viewport->geometry();
+    return QRect(viewport->mapToGlobal(rect.topLeft()), viewport->mapToGlobal(rect.bottomRight()));
+}
+
+bool isConfirmKey(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool closeForApplication(QDialog *keypad, int key)
+{
+    if (HMIDeviceInfo::deviceType() != handingOnType || !isApplicationKey(key))
+        return false;
+    keypad->reject();
+    return true;
+}
+
+} // namespace Keypad
