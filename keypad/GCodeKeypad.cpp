@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "GCodeKeypad.h"
+
+#include "HMIDeviceInfo.h"
+#include "KeyBoardLineEdit.h"
+#include "KeyGrid_p.h"
+#include "KeypadLook_p.h"
+#include "KeypadRules_p.h"
+
+#include <QGraphicsView>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QToolButton>
+
+#define SPACE_LABEL HMI_CODEC_LITERAL("\xA9\xB8\xA9\xA4\xA9\xA4\xA9\xBC", "└──┘")
+
+// Four rows of ten keys.
+static const char charLabels[] = "IJKLMFG789"
+                                 "HRTPUAX456"
+                                 "ODEQVBY123"
+                                 ",$NSWCZ0.-";
+
+static const int charKeySpan = 2; // columns
+
+// clang-format off
+static const Keypad::KeyCell editingCells[] = {
+    { "ESC",       4,  0, 3, Keypad::Cancel      },
+    { "BSP",       4, 12, 4, Keypad::Backspace   },
+    { "←",         4,  3, 2, Keypad::MoveLeft    },
+    { "→",         4,  5, 2, Keypad::MoveRight   },
+    { "Enter",     4, 16, 4, Keypad::Confirm     },
+    { SPACE_LABEL, 4,  7, 5, Keypad::InsertSpace }
+};
+// clang-format on
+
+static const int editingKeyCount = int(sizeof(editingCells) / sizeof(editingCells[0]));
+
+/*
+ * Where a keypad over \a target lies, in global coordinates. The rectangle that counts from the
+ * target's parent is mapped by the target itself: existing screens are laid out for that.
+ */
+static QRect coveredRect(const QWidget *target)
+{
+    QRect rect = target->geometry();
+    if (target->parentWidget())
+        rect = QRect(target->mapToGlobal(rect.topLeft()), target->mapToGlobal(rect.bottomRight()));
+    const QWidget *viewport = HMIDeviceInfo::graphicsView()->viewport();
+    return QRect(viewport->mapToGlobal(rect.topLeft()), viewport->mapToGlobal(rect.bottomRight()));
+}
+
+GCodeKeypad *GCodeKeypad::m_instance = nullptr;
+
+GCodeKeypad *GCodeKeypad::instance()
+{
+    if (!m_instance)
+        m_instance = new GCodeKeypad(HMIDeviceInfo::graphicsView(), Qt::WindowFlags());
+    return m_instance;
+}
+
+GCodeKeypad::GCodeKeypad(QWidget *parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags | Qt::FramelessWindowHint)
+{
+    QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
+    setUpCharKeys(grid);
+    setUpEditingKeys(grid);
+    Keypad::finishFixedFace(this, m_tipLabel);
+}
+
+GCodeKeypad::~GCodeKeypad() = default;
+
+void GCodeKeypad::setObject(QObject *object)
+{
+    Keypad::bindTarget(object, &m_object, m_lineEdit, Keypad::EnableKeys);
+}
+
+void GCodeKeypad::setEditMode(int)
+{
+}
+
+void GCodeKeypad::setDecimalPointEnabled(bool)
+{
+}
+
+void GCodeKeypad::setMaxLength(int length)
+{
+    m_lineEdit->setMaxLength(length);
+}
+
+void GCodeKeypad::setValidator(const QValidator *validator)
+{
+    m_lineEdit->setValidator(validator);
+}
+
+void GCodeKeypad::setPasswordEchoMode(bool on)
+{
+    Keypad::setPasswordEcho(m_lineEdit, on);
+}
+
+void GCodeKeypad::setLimitToolTip(const QString &text)
+{
+    Keypad::showLimits(m_tipLabel, text);
+}
+
+void GCodeKeypad::setText(const QString &text)
+{
+    Keypad::showText(m_lineEdit, text);
+}
+
+void GCodeKeypad::keyPressEvent(QKeyEvent *event)
+{
+    if (Keypad::isConfirmKey(event->key()))
+        Keypad::confirm(this, m_object, m_lineEdit);
+    else if (Keypad::closeForApplication(this, event->key()))
+        Q_EMIT signal_kTypeKeyPressed(event->key());
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void GCodeKeypad::showEvent(QShowEvent *event)
+{
+    if (const QWidget *target = qobject_cast<QWidget *>(m_object.data())) {
+        const QRect rect = coveredRect(target);
+        setFixedSize(rect.size());
+        setGeometry(rect);
+    }
+    QDialog::showEvent(event);
+}
+
+void GCodeKeypad::slot_toolButton_clicked()
+{
+    QToolButton *const editingKeys[] = { m_escKey,   m_bspKey,   m_leftKey,
+                                         m_rightKey, m_enterKey, m_spaceKey };
+    const QToolButton *key = qobject_cast<QToolButton *>(sender());
+    if (!key)
+        return;
+    const int i = Keypad::indexOfKey(key, editingKeys, editingKeyCount);
+    const Keypad::KeyAction action = i < 0 ? Keypad::InsertLabel : editingCells[i].action;
+    Keypad::act(action, key->text(), this, m_object, m_lineEdit);
+}
+
+void GCodeKeypad::setUpCharKeys(QGridLayout *grid)
+{
+    for (int row = 0; row < CharRows; ++row) {
+        for (int i = 0; i < CharColumns; ++i) {
+            const QString label(QLatin1Char(charLabels[CharColumns * row + i]));
+            m_charKeys[row][i] = Keypad::addKey(this, grid, label, row, charKeySpan * i,
+                                                charKeySpan, SLOT(slot_toolButton_clicked()));
+        }
+    }
+}
+
+void GCodeKeypad::setUpEditingKeys(QGridLayout *grid)
+{
+    QToolButton *keys[editingKeyCount];
+    Keypad::addKeys(this, grid, editingCells, editingKeyCount, keys,
+                    SLOT(slot_toolButton_clicked()));
+    m_escKey = keys[0];
+    m_bspKey = keys[1];
+    m_leftKey = keys[2];
+    m_rightKey = keys[3];
+    m_enterKey = keys[4];
+    m_spaceKey = keys[5];
+}

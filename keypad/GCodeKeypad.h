@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#ifndef GCODEKEYPAD_H
+#define GCODEKEYPAD_H
+
+#include "HMIDeviceExport.h"
+
+#include <QDialog>
+#include <QPointer>
+
+class KeyBoardLineEdit;
+class QGridLayout;
+class QLabel;
+class QToolButton;
+class QValidator;
+
+/*!
+ * The modal keypad for fields of machine-tool programs: the address letters, digits and
+ * punctuation of G-code, and a row of editing keys.
+ *
+ * It edits a copy of a field's text and writes it into the field's "text" property when the
+ * operator confirms. For each field call, in this order: instance(), setObject(), the adjustments
+ * (setMaxLength() to setLimitToolTip(), which setObject() resets in part), setText(), exec().
+ * exec() returns QDialog::Accepted when the field was written, else QDialog::Rejected.
+ *
+ * At every show it lays itself over its target rather than over the application's view, with a
+ * fixed size. The target's geometry() is mapped to global coordinates by the target itself (unless
+ * it has no parent) and then by the viewport of HMIDeviceInfo::graphicsView(), which must be set
+ * when the target is a widget: the keypad does not look. The offset of a target inside its parent
+ * thus counts twice; a target whose top-left corner is that of its parent is covered exactly. A
+ * target that is not a widget leaves place and size as they are, 320x240 pixels at first.
+ *
+ * Return and Enter confirm, Escape cancels.
+ */
+class HMIDEVICE_EXPORT GCodeKeypad : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /*!
+     * The process's one G-code keypad, built by the first call as a child of
+     * HMIDeviceInfo::graphicsView(), which may be null. The library never deletes it; if the
+     * application deletes the view, the keypad is gone with it and must not be asked for again.
+     */
+    static GCodeKeypad *instance();
+
+    /*!
+     * Builds a keypad with \a flags and Qt::FramelessWindowHint; \a parent may be
+     * null. Applications use instance().
+     */
+    GCodeKeypad(QWidget *parent, Qt::WindowFlags flags);
+    ~GCodeKeypad() override;
+
+    /*!
+     * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
+     * previous target stays. Resets echo mode, maximum length (32767) and enables every key; leaves
+     * the edit line's text, its validator and the limit line alone. Does not own \a object; an
+     * object destroyed later counts as no target.
+     */
+    void setObject(QObject *object);
+
+    /*! Ignored: this keypad has no modes. It takes the call as every keypad with keys does. */
+    void setEditMode(int mode);
+
+    /*! Ignored: the "." key is always enabled. */
+    void setDecimalPointEnabled(bool enabled);
+
+    /*! The longest text, in characters, that can be entered; until the next setObject(). */
+    void setMaxLength(int length);
+
+    /*!
+     * Restricts what can be entered. Null removes the restriction. Not owned: keep \a validator
+     * alive until it is replaced. It stays set for later targets.
+     */
+    void setValidator(const QValidator *validator);
+
+    /*! Masks what is entered when \a on; until the next setObject(). */
+    void setPasswordEchoMode(bool on);
+
+    /*!
+     * Shows \a text above the edit line, such as the permitted range of the value. An empty text
+     * hides the line, as in a new keypad. Survives setObject().
+     */
+    void setLimitToolTip(const QString &text);
+
+    /*! Replaces the text being edited and selects all of it, so that the first key replaces it. */
+    void setText(const QString &text);
+
+Q_SIGNALS:
+    /*!
+     * On panel type 13 only: the operator pressed hard key \a key (a Qt::Key value) of those that
+     * belong to the application. The keypad has rejected itself by then, and exec() has not yet
+     * returned.
+     */
+    void signal_kTypeKeyPressed(int key);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private Q_SLOTS:
+    void slot_toolButton_clicked();
+
+private:
+    enum { CharRows = 4, CharColumns = 10 };
+
+    void setUpCharKeys(QGridLayout *grid);
+    void setUpEditingKeys(QGridLayout *grid);
+
+    static GCodeKeypad *m_instance;
+
+    QPointer<QObject> m_object;
+    QLabel *m_tipLabel;
+    KeyBoardLineEdit *m_lineEdit;
+    QToolButton *m_charKeys[CharRows][CharColumns];
+    QToolButton *m_escKey;
+    QToolButton *m_bspKey;
+    QToolButton *m_leftKey;
+    QToolButton *m_rightKey;
+    QToolButton *m_enterKey;
+    QToolButton *m_spaceKey;
+};
+
+#endif

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#ifndef VONDKEYPAD_H
+#define VONDKEYPAD_H
+
+#include "HMIDeviceExport.h"
+
+#include <QDialog>
+#include <QPointer>
+
+class KeyBoardLineEdit;
+class QLabel;
+class QToolButton;
+class QValidator;
+
+/*!
+ * The modal keypad for axis words: the axis letters U, V, W, X, Y, Z, A, B and C, the letters F
+ * and G, digits, a decimal point and a sign key.
+ *
+ * It edits a copy of a field's text and writes it into the field's "text" property when the
+ * operator confirms. For each field call, in this order: instance(), setObject(), the adjustments
+ * (setMaxLength() to setLimitToolTip(), which setObject() resets in part), setText(), exec().
+ * exec() returns QDialog::Accepted when the field was written, else QDialog::Rejected.
+ *
+ * At every show it covers the viewport of HMIDeviceInfo::graphicsView(). A view must be registered
+ * before the keypad is shown: it does not look. Return and Enter confirm, Escape cancels.
+ */
+class HMIDEVICE_EXPORT vondKeypad : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /*!
+     * The process's one axis keypad, built by the first call as a child of
+     * HMIDeviceInfo::graphicsView(), which may be null. The library never deletes it; if the
+     * application deletes the view, the keypad is gone with it and must not be asked for again.
+     */
+    static vondKeypad *instance();
+
+    /*!
+     * Builds a keypad with \a flags and Qt::FramelessWindowHint; \a parent may be
+     * null. Applications use instance().
+     */
+    vondKeypad(QWidget *parent, Qt::WindowFlags flags);
+    ~vondKeypad() override;
+
+    /*!
+     * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
+     * previous target stays. Resets echo mode, maximum length (32767) and enables every key; leaves
+     * the edit line's text, its validator and the limit line alone. Does not own \a object; an
+     * object destroyed later counts as no target.
+     */
+    void setObject(QObject *object);
+
+    /*! Ignored: this keypad has no modes. It takes the call as every keypad with keys does. */
+    void setEditMode(int mode);
+
+    /*! Ignored: the "." key is always enabled. */
+    void setDecimalPointEnabled(bool enabled);
+
+    /*! The longest text, in characters, that can be entered; until the next setObject(). */
+    void setMaxLength(int length);
+
+    /*!
+     * Restricts what can be entered. Null removes the restriction. Not owned: keep \a validator
+     * alive until it is replaced. It stays set for later targets.
+     */
+    void setValidator(const QValidator *validator);
+
+    /*! Masks what is entered when \a on; until the next setObject(). */
+    void setPasswordEchoMode(bool on);
+
+    /*!
+     * Shows \a text above the edit line, such as the permitted range of the value. An empty text
+     * hides the line, as in a new keypad. Survives setObject().
+     */
+    void setLimitToolTip(const QString &text);
+
+    /*! Replaces the text being edited and selects all of it, so that the first key replaces it. */
+    void setText(const QString &text);
+
+Q_SIGNALS:
+    /*!
+     * On panel type 13 only: the operator pressed hard key \a key (a Qt::Key value) of those that
+     * belong to the application. The keypad has rejected itself by then, and exec() has not yet
+     * returned.
+     */
+    void signal_kTypeKeyPressed(int key);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private Q_SLOTS:
+    void slot_toolButton_clicked();
+
+private:
+    enum { KeyCount = 29 };
+
+    static vondKeypad *m_instance;
+
+    QPointer<QObject> m_object;
+    QLabel *m_tipLabel;
+    KeyBoardLineEdit *m_lineEdit;
+    QToolButton *m_keys[KeyCount];
+};
+
+#endif
