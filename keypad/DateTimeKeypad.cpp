@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: MIT
+#include "DateTimeKeypad.h"
+
+#include "FittedText_p.h"
+#include "HMIDeviceInfo.h"
+#include "KeyBoardLineEdit.h"
+#include "KeyGrid_p.h"
+#include "KeypadLook_p.h"
+#include "KeypadRules_p.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QGraphicsView>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QSpinBox>
+
+static const int dateLength = 10;
+static const int timeLength = 8;
+static const char dateFormat[] = "yyyy-MM-dd";
+static const char timeFormat[] = "hh:mm:ss";
+static const char dateTimeFormat[] = "yyyy-MM-dd hh:mm:ss";
+
+static const int keypadPoints = 24;
+static const int keySpacing = 1; // pixels
+static const QRgb white = qRgb(255, 255, 255);
+static const QRgb invalidColour = qRgb(255, 153, 51); // orange
+
+// clang-format off
+// The hour reaches 24, which composes no time: the display is then empty.
+static const struct
+{
+    const char *label;
+    int row, column; // of the label; the spin box follows it
+    int minimum, maximum;
+} fieldCells[] = {
+    { QT_TRANSLATE_NOOP("DateTimeKeypad", "year:"),   0, 0, 1600, 9999 },
+    { QT_TRANSLATE_NOOP("DateTimeKeypad", "month:"),  1, 0,    1,   12 },
+    { QT_TRANSLATE_NOOP("DateTimeKeypad", "day:"),    2, 0,    1,   28 },
+    { QT_TRANSLATE_NOOP("DateTimeKeypad", "hour:"),   0, 2,    0,   24 },
+    { QT_TRANSLATE_NOOP("DateTimeKeypad", "minute:"), 1, 2,    0,   59 },
+    { QT_TRANSLATE_NOOP("DateTimeKeypad", "second:"), 2, 2,    0,   59 }
+};
+
+static const char *const digitLabels[] = {
+    QT_TRANSLATE_NOOP("DateTimeKeypad", "1"), QT_TRANSLATE_NOOP("DateTimeKeypad", "2"),
+    QT_TRANSLATE_NOOP("DateTimeKeypad", "3"), QT_TRANSLATE_NOOP("DateTimeKeypad", "4"),
+    QT_TRANSLATE_NOOP("DateTimeKeypad", "5"), QT_TRANSLATE_NOOP("DateTimeKeypad", "6"),
+    QT_TRANSLATE_NOOP("DateTimeKeypad", "7"), QT_TRANSLATE_NOOP("DateTimeKeypad", "8"),
+    QT_TRANSLATE_NOOP("DateTimeKeypad", "9"), QT_TRANSLATE_NOOP("DateTimeKeypad", "0")
+};
+// clang-format on
+
+static QDateTime fields(const QDate &date, const QTime &time)
+{
+    return date.isValid() && time.isValid() ? QDateTime(date, time, Qt::UTC) : QDateTime();
+}
+
+// Date and time are read apart and joined in UTC: as one local time, an hour that a change to
+// summer time skips could be neither read nor shown.
+static QDateTime parsed(const QString &text)
+{
+    const QString ofDate = QLatin1String(dateFormat);
+    const QString ofTime = QLatin1String(timeFormat);
+    if (text.length() == dateLength)
+        return fields(QDate::fromString(text, ofDate), QTime(0, 0));
+    if (text.length() == timeLength)
+        return fields(QDate(1900, 1, 1), QTime::fromString(text, ofTime));
+    if (text.mid(dateLength, 1) != QLatin1String(" "))
+        return QDateTime();
+    return fields(QDate::fromString(text.left(dateLength), ofDate),
+                  QTime::fromString(text.mid(dateLength + 1), ofTime));
+}
+
+static int daysIn(int year, int month)
+{
+    switch (month) {
+    case 2:
+        return year % 4 != 0 || (year % 100 == 0 && year % 400 != 0) ? 28 : 29;
+    case 4:
+    case 6:
+    case 9:
+    case 11:
+        return 30;
+    default:
+        return 31;
+    }
+}
+
+static void setActiveBase(QWidget *field, QPalette palette, const QColor &colour)
+{
+    palette.setColor(QPalette::Active, QPalette::Base, colour);
+    field->setPalette(palette);
+}
+
+DateTimeKeypad *DateTimeKeypad::m_instance = nullptr;
+
+DateTimeKeypad *DateTimeKeypad::instance()
+{
+    if (!m_instance)
+        m_instance = new DateTimeKeypad(HMIDeviceInfo::graphicsView(), Qt::WindowFlags());
+    return m_instance;
+}
+
+DateTimeKeypad::DateTimeKeypad(QWidget *parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags | Qt::FramelessWindowHint)
+    , m_formatLength(0)
+{
+    createDisplay();
+    createFields();
+    createButtons();
+
+    QVBoxLayout *layout = new QVBoxLayout(this);
+    Keypad::setUpLayout(layout, keySpacing);
+    layout->addLayout(displayAndDigits(), 2);
+    layout->addLayout(labelledFields(), 3);
+    layout->addLayout(commands(), 1);
+    setFont(Keypad::font(keypadPoints));
+}
+
+DateTimeKeypad::~DateTimeKeypad() = default;
+
+void DateTimeKeypad::setObject(QObject *object)
+{
+    Keypad::bindTarget(object, &m_object, m_lineEdit, Keypad::KeepKeys);
+}
+
+void DateTimeKeypad::setMaxLength(int length)
+{
+    m_lineEdit->setMaxLength(length);
+    m_formatLength = length;
+    if (length != dateLength && length != timeLength)
+        return;
+    for (int i = 0; i < FieldCount; ++i)
+        m_fields[i]->setEnabled((i < Hour) == (length == dateLength));
+}
+
+void DateTimeKeypad::setValidator(const QValidator *validator)
+{
+    m_lineEdit->setValidator(validator);
+}
+
+void DateTimeKeypad::setPasswordEchoMode(bool on)
+{
+    Keypad::setPasswordEcho(m_lineEdit, on);
+}
+
+void DateTimeKeypad::setText(const QString &text)
+{
+    m_lineEdit->clear();
+    m_lineEdit->setText(text);
+
+    const QDateTime value = parsed(text);
+    const QDate date = value.date();
+    const QTime time = value.time();
+    m_fields[Year]->setValue(date.year());
+    m_fields[Month]->setValue(date.month());
+    m_fields[Day]->setValue(date.day());
+    m_fields[Hour]->setValue(time.hour());
+    m_fields[Minute]->setValue(time.minute());
+    m_fields[Second]->setValue(time.second());
+}
+
+void DateTimeKeypad::setSpinBoxDayRange(int year, int month)
+{
+    m_fields[Day]->setRange(1, daysIn(year, month));
+}
+
+QSpinBox *DateTimeKeypad::focusSpinBox()
+{
+    for (QSpinBox *field : m_fields) {
+        if (field->hasFocus())
+            return field;
+    }
+    return nullptr;
+}
+
+void DateTimeKeypad::showEvent(QShowEvent *event)
+{
+    const QGraphicsView *view = HMIDeviceInfo::graphicsView();
+    if (!view)
+        return;
+    setGeometry(Keypad::coveredRect(view));
+    QDialog::showEvent(event);
+}
+
+void DateTimeKeypad::slot_toolButtonClicked()
+{
+    const QObject *button = sender();
+    if (!button)
+        return;
+    if (button == m_cancelButton)
+        reject();
+    else if (button == m_okButton)
+        Keypad::confirm(this, m_object, m_lineEdit);
+    else if (QSpinBox *field = focusSpinBox())
+        edit(field, button);
+}
+
+void DateTimeKeypad::slot_valueChanged(int)
+{
+    if (!sender())
+        return;
+    setSpinBoxDayRange(m_fields[Year]->value(), m_fields[Month]->value());
+    m_lineEdit->clear();
+    m_lineEdit->setText(composedText());
+}
+
+void DateTimeKeypad::slot_editingFinished()
+{
+    if (QSpinBox *field = qobject_cast<QSpinBox *>(sender()))
+        setActiveBase(field, QPalette(), white);
+}
+
+void DateTimeKeypad::createDisplay()
+{
+    m_lineEdit = new KeyBoardLineEdit(this);
+    m_lineEdit->setEnabled(false);
+    m_lineEdit->setAlignment(Qt::AlignCenter);
+    m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+}
+
+void DateTimeKeypad::createFields()
+{
+    for (int i = 0; i < FieldCount; ++i) {
+        QSpinBox *field = new QSpinBox(this);
+        field->setButtonSymbols(QAbstractSpinBox::NoButtons);
+        field->setRange(fieldCells[i].minimum, fieldCells[i].maximum);
+        field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+        connect(field, SIGNAL(valueChanged(int)), this, SLOT(slot_valueChanged(int)));
+        connect(field, SIGNAL(editingFinished()), this, SLOT(slot_editingFinished()));
+        m_fields[i] = field;
+    }
+}
+
+void DateTimeKeypad::createButtons()
+{
+    for (int i = 0; i < DigitCount; ++i)
+        m_digitButtons[i] = createButton(tr(digitLabels[i]));
+    m_plusButton = createButton(tr("+"));
+    m_minusButton = createButton(tr("-"));
+    m_deleteButton = createButton(tr("Delete"));
+    m_okButton = createButton(tr("Ok"));
+    m_cancelButton = createButton(tr("Cancel"));
+}
+
+QToolButton *DateTimeKeypad::createButton(const QString &label)
+{
+    QToolButton *button = new Keypad::KeyButton(this);
+    button->setText(label);
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    connect(button, SIGNAL(clicked()), this, SLOT(slot_toolButtonClicked()));
+    return button;
+}
+
+QLayout *DateTimeKeypad::displayAndDigits()
+{
+    QGridLayout *grid = new QGridLayout;
+    Keypad::setUpLayout(grid, keySpacing);
+    grid->addWidget(m_lineEdit, 0, 0, 1, DigitCount);
+    for (int i = 0; i < DigitCount; ++i)
+        grid->addWidget(m_digitButtons[i], 1, i);
+    return grid;
+}
+
+QLayout *DateTimeKeypad::labelledFields()
+{
+    QGridLayout *grid = new QGridLayout;
+    Keypad::setUpLayout(grid, keySpacing);
+    for (int i = 0; i < FieldCount; ++i) {
+        QLabel *label = new QLabel(tr(fieldCells[i].label), this);
+        label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+        grid->addWidget(label, fieldCells[i].row, fieldCells[i].column);
+        grid->addWidget(m_fields[i], fieldCells[i].row, fieldCells[i].column + 1);
+    }
+    return grid;
+}
+
+QLayout *DateTimeKeypad::commands()
+{
+    QHBoxLayout *row = new QHBoxLayout;
+    Keypad::setUpLayout(row, keySpacing);
+    row->addWidget(m_plusButton);
+    row->addWidget(m_minusButton);
+    row->addWidget(m_deleteButton);
+    row->addWidget(m_cancelButton);
+    row->addWidget(m_okButton);
+    return row;
+}
+
+QString DateTimeKeypad::composedText() const
+{
+    const QDate date(m_fields[Year]->value(), m_fields[Month]->value(), m_fields[Day]->value());
+    const QTime time(m_fields[Hour]->value(), m_fields[Minute]->value(), m_fields[Second]->value());
+    switch (m_formatLength) {
+    case timeLength:
+        return time.toString(QLatin1String(timeFormat));
+    case dateLength:
+        return date.toString(QLatin1String(dateFormat));
+    default:
+        return QDateTime(date, time, Qt::UTC).toString(QLatin1String(dateTimeFormat));
+    }
+}
+
+void DateTimeKeypad::edit(QSpinBox *field, const QObject *button)
+{
+    if (button == m_deleteButton) {
+        pressKey(field, Qt::Key_Backspace, QString());
+    } else if (button == m_plusButton) {
+        field->stepUp();
+    } else if (button == m_minusButton) {
+        field->stepDown();
+    } else {
+        const int digit = (Keypad::indexOfKey(button, m_digitButtons, DigitCount) + 1) % 10;
+        pressKey(field, Qt::Key_0 + digit, QString::number(digit));
+    }
+    setActiveBase(field, field->palette(), QColor(isValid(field) ? white : invalidColour));
+}
+
+void DateTimeKeypad::pressKey(QSpinBox *field, int key, const QString &text)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(field, &event);
+}
+
+bool DateTimeKeypad::isValid(const QSpinBox *field) const
+{
+    bool isNumber = false;
+    const int number = field->text().toInt(&isNumber);
+    if (field == m_fields[Year])
+        return isNumber && number >= field->minimum();
+    if (field == m_fields[Month] || field == m_fields[Day])
+        return isNumber && number != 0;
+    return isNumber;
+}
