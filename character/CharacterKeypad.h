@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#ifndef CHARACTERKEYPAD_H
+#define CHARACTERKEYPAD_H
+
+#include "HMIDeviceExport.h"
+
+#include <QDialog>
+#include <QPointer>
+#include <QStringList>
+
+class ChnPanel;
+class KeyBoardLineEdit;
+class NumPanel;
+class QGridLayout;
+class QSignalMapper;
+class QSqlTableModel;
+class QToolButton;
+class QValidator;
+
+/*!
+ * The modal keypad for free text: English lower case and capitals, special symbols, and Chinese by
+ * pinyin.
+ *
+ * It edits a copy of a field's text and writes it into the field's "text" property when the
+ * operator confirms. For each field call, in this order: instance(), setObject(), the adjustments
+ * (setMaxLength(), setValidator(), setPasswordEchoMode(), which setObject() resets in part),
+ * setText(), exec(). exec() returns QDialog::Accepted when the field was written, else
+ * QDialog::Rejected. The keypad opens with the key set that it was left with.
+ *
+ * At every show it covers the viewport of HMIDeviceInfo::graphicsView(); without a view it keeps
+ * its geometry. Return and Enter confirm, Escape cancels.
+ *
+ * Chinese candidates come from the SQLite file "data.db" in the application's directory: table
+ * "pinyin", first column "py" (a pinyin of at most 11 lower-case letters, ü as v), second column
+ * one candidate, rows in ranking order. It is opened read-only when the keypad is built, under the
+ * connection name "pinyin", and queried once for each letter; without it there are no candidates.
+ */
+class HMIDEVICE_EXPORT CharacterKeypad : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /*!
+     * The process's one character keypad, built by the first call as a child of
+     * HMIDeviceInfo::graphicsView(), which may be null. The library never deletes it; if the
+     * application deletes the view, the keypad is gone with it and must not be asked for again.
+     */
+    static CharacterKeypad *instance();
+
+    /*!
+     * Builds a keypad in English lower case, with \a flags and Qt::FramelessWindowHint; \a parent
+     * may be null. Applications use instance(): two at a time would share one dictionary
+     * connection.
+     */
+    CharacterKeypad(QWidget *parent, Qt::WindowFlags flags);
+
+    /*! Closes the dictionary and removes its connection. */
+    ~CharacterKeypad() override;
+
+    /*!
+     * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
+     * previous target stays. Resets echo mode and maximum length (32767); leaves the edit line's
+     * text, its validator and the key set alone. Does not own \a object; an object destroyed later
+     * counts as no target.
+     *
+     * When \a object is of a class "DateTimeField", or derived from one, and a validator is set,
+     * "Del" without a selection cuts the character before the cursor even where the validator
+     * would refuse it.
+     */
+    void setObject(QObject *object);
+
+    /*! The longest text, in characters, that can be entered; until the next setObject(). */
+    void setMaxLength(int length);
+
+    /*!
+     * Restricts what can be entered. Null removes the restriction. Not owned: keep \a validator
+     * alive until it is replaced. It stays set for later targets.
+     */
+    void setValidator(const QValidator *validator);
+
+    /*! Masks what is entered when \a on; until the next setObject(). */
+    void setPasswordEchoMode(bool on);
+
+    /*! Replaces the text being edited and selects all of it, so that the first key replaces it. */
+    void setText(const QString &text);
+
+Q_SIGNALS:
+    /*!
+     * On panel type 13 only: the operator pressed hard key \a key (a Qt::Key value) of those that
+     * belong to the application. The keypad has rejected itself by then, and exec() has not yet
+     * returned.
+     */
+    void signal_kTypeKeyPressed(int key);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private Q_SLOTS:
+    void sendContent(const QString &text);
+
+private:
+    enum { LetterCount = 26 };
+    enum Mode { EnglishMode, SymbolMode, ChineseMode };
+
+    void drawWindow();
+    void drawLetterKeys(QGridLayout *grid);
+    void drawFunctionKeys(QGridLayout *grid);
+    void setUpMapper();
+    void setUpConnect();
+    QList<QWidget *> mappedKeys() const;
+
+    void setUpEnglish();
+    void setUpEnglishCaps();
+    void setUpSpecialSymbols();
+    void setUpChanese();
+    void setUpLetters(const char *letters, const char *modeLabel, const char *languageLabel);
+    void showPanel(QWidget *shown, QWidget *hidden);
+    void setModes(Mode last, Mode current);
+
+    void sendEnContent(const QString &text);
+    void sendSpecialSymbols(const QString &text);
+    void sendChnContent(const QString &text);
+    void editText(const QString &key);
+    void deleteCharacter();
+    bool targetIsDateTimeField() const;
+
+    void openDb();
+    QString pinyin() const;
+    void compose(const QString &pinyin);
+    void clearComposition();
+
+    static CharacterKeypad *m_instance;
+
+    QPointer<QObject> m_object;
+    KeyBoardLineEdit *m_lineEdit;
+    ChnPanel *m_chnPanel;
+    NumPanel *m_numPanel;
+    QToolButton *m_letterKeys[LetterCount];
+    QToolButton *m_modeKey;
+    QToolButton *m_spaceKey;
+    QToolButton *m_enterKey;
+    QToolButton *m_escKey;
+    QToolButton *m_delKey;
+    QToolButton *m_languageKey;
+    QToolButton *m_symbolKey;
+    QToolButton *m_commaKey;
+    QToolButton *m_periodKey;
+    QSignalMapper *m_signalMapper;
+    QStringList m_candidates;
+    QSqlTableModel *m_dictionary;
+    int m_mode;
+    int m_lastMode;
+};
+
+#endif

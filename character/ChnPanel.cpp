@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "ChnPanel.h"
+
+#include "ClickLabel.h"
+#include "FittedText_p.h"
+#include "KeypadLook_p.h"
+#include "LabelMapping_p.h"
+
+#include <QHBoxLayout>
+#include <QSignalMapper>
+
+// On the narrowest panel a long pinyin needs more room than a candidate.
+static const int pinyinWidthInLines = 3;
+
+// A candidate is shown as it will be inserted, whatever marks the dictionary has in it.
+template <class Label>
+static Label *createLabel(QWidget *parent, int widthInLines)
+{
+    Label *label = new Keypad::FittedLabel<Label>(QString(), parent, widthInLines);
+    label->setTextFormat(Qt::PlainText);
+    label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    Keypad::colourLabel(label);
+    return label;
+}
+
+ChnPanel::ChnPanel(QWidget *parent)
+    : QWidget(parent, Qt::FramelessWindowHint)
+    , m_currentPage(0)
+    , m_pageCount(0)
+{
+    m_previousButton = Keypad::createKey(this, QLatin1String("<"));
+    m_pinyinLabel = createLabel<QLabel>(this, pinyinWidthInLines);
+    QHBoxLayout *layout = new QHBoxLayout(this);
+    layout->addWidget(m_previousButton);
+    layout->addWidget(m_pinyinLabel);
+    for (int i = 0; i < PageSize; ++i) {
+        m_candidateLabels[i] = createLabel<ClickLabel>(this, 1);
+        layout->addWidget(m_candidateLabels[i]);
+    }
+    m_nextButton = Keypad::createKey(this, QLatin1String(">"));
+    layout->addWidget(m_nextButton);
+    hide();
+}
+
+ChnPanel::~ChnPanel() = default;
+
+ClickLabel *ChnPanel::getClickLabel(short index)
+{
+    return index >= 0 && index < PageSize ? m_candidateLabels[index] : nullptr;
+}
+
+QToolButton *ChnPanel::getToolButton(short index)
+{
+    switch (index) {
+    case 0:
+        return m_previousButton;
+    case 1:
+        return m_nextButton;
+    default:
+        return nullptr;
+    }
+}
+
+QLabel *ChnPanel::getPinyinLabel()
+{
+    return m_pinyinLabel;
+}
+
+void ChnPanel::setNewPinYin(const QStringList &list, QSignalMapper *mapper)
+{
+    if (!mapper || list.isEmpty())
+        return;
+    m_pageCount = (list.size() + PageSize - 1) / PageSize;
+    m_currentPage = 0;
+    const int shown = qMin(int(list.size()), int(PageSize));
+    for (int i = 0; i < shown; ++i)
+        showCandidate(i, list.at(i), mapper);
+}
+
+void ChnPanel::clearPinYin(QSignalMapper *mapper, short clearPinyinToo)
+{
+    if (!mapper)
+        return;
+    m_currentPage = 0;
+    m_pageCount = 0;
+    for (int i = 0; i < PageSize; ++i)
+        showCandidate(i, QString(), mapper);
+    if (clearPinyinToo)
+        m_pinyinLabel->clear();
+}
+
+void ChnPanel::nextPage(const QStringList &list, QSignalMapper *mapper)
+{
+    if (mapper && m_currentPage + 1 < m_pageCount)
+        showPage(m_currentPage + 1, list, mapper);
+}
+
+void ChnPanel::prePage(const QStringList &list, QSignalMapper *mapper)
+{
+    if (mapper && m_currentPage > 0)
+        showPage(m_currentPage - 1, list, mapper);
+}
+
+void ChnPanel::showPage(int page, const QStringList &list, QSignalMapper *mapper)
+{
+    m_currentPage = page;
+    for (int i = 0; i < PageSize; ++i)
+        showCandidate(i, list.value(page * PageSize + i), mapper);
+}
+
+void ChnPanel::showCandidate(int index, const QString &text, QSignalMapper *mapper)
+{
+    m_candidateLabels[index]->setText(text);
+    mapKey(mapper, m_candidateLabels[index], text);
+}
