@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: MIT
+#
+# Finds the Qt that HMI_QT_MAJOR names, and says of it
+#   HMI_QT_WIDGETS, HMI_QT_SQL, HMI_QT_TEST  the targets to link
+#   HMI_QT_CXX_STANDARD                      the C++ to compile with
+#   HMI_QT_DEPENDENCY                        what users of the installed library must find
+#   HMI_QT_PC_REQUIRES, HMI_QT_PC_PRIVATE    the same for pkg-config: the headers' modules, the rest
+#   HMI_QT_PC_CFLAGS                         what this Qt asks of its users' compiler
+
+set(HMI_QT Qt${HMI_QT_MAJOR})
+
+if(HMI_QT_MAJOR EQUAL 4)
+    set(modules QtCore QtGui QtSql)
+    set(test_module QtTest)
+    set(HMI_QT_WIDGETS Qt4::QtGui)
+    set(HMI_QT_SQL Qt4::QtSql)
+    set(HMI_QT_TEST Qt4::QtTest)
+    set(HMI_QT_DEPENDENCY "Qt4 4.8 COMPONENTS QtCore QtGui QtSql")
+    set(HMI_QT_PC_REQUIRES "QtGui")
+    set(HMI_QT_PC_PRIVATE "QtSql")
+    set(HMI_QT_PC_CFLAGS "")
+else()
+    set(modules Widgets Sql)
+    set(test_module Test)
+    set(HMI_QT_WIDGETS ${HMI_QT}::Widgets)
+    set(HMI_QT_SQL ${HMI_QT}::Sql)
+    set(HMI_QT_TEST ${HMI_QT}::Test)
+    set(HMI_QT_DEPENDENCY "${HMI_QT} COMPONENTS Widgets Sql")
+    set(HMI_QT_PC_REQUIRES "${HMI_QT}Widgets")
+    set(HMI_QT_PC_PRIVATE "${HMI_QT}Sql")
+    set(HMI_QT_PC_CFLAGS "-fPIC")
+endif()
+
+if(HMI_QT_MAJOR EQUAL 6)
+    set(HMI_QT_CXX_STANDARD 17)
+else()
+    set(HMI_QT_CXX_STANDARD 11)
+endif()
+
+if(HMI_BUILD_TESTS OR HMI_BUILD_BENCHMARKS)
+    list(APPEND modules ${test_module})
+endif()
+
+if(HMI_QT_MAJOR EQUAL 4)
+    find_package(Qt4 4.8 REQUIRED ${modules})
+else()
+    find_package(${HMI_QT} REQUIRED COMPONENTS ${modules})
+endif()
