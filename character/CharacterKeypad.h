@@ -30,6 +30,9 @@ class QValidator;
  * At every show it covers the viewport of HMIDeviceInfo::graphicsView(); without a view it keeps
  * its geometry. Return and Enter confirm, Escape cancels.
  *
+ * Confirming writes what stands in the edit line, whether or not a validator accepts it as
+ * complete. Without a target it does nothing, and the keypad stays open.
+ *
  * Chinese candidates come from the SQLite file "data.db" in the application's directory: table
  * "pinyin", first column "py" (a pinyin of at most 11 lower-case letters, ü as v), second column
  * one candidate, rows in ranking order. It is opened read-only when the keypad is built, under the
@@ -60,8 +63,9 @@ public:
     /*!
      * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
      * previous target stays. Resets echo mode and maximum length (32767); leaves the edit line's
-     * text, its validator and the key set alone. Does not own \a object; an object destroyed later
-     * counts as no target.
+     * text, its validator and the key set alone. Blocks the signals of \a object meanwhile and
+     * leaves them unblocked. Does not own it; an object destroyed later counts as no target. An
+     * object without the property gets a dynamic one.
      *
      * When \a object is of a class "DateTimeField", or derived from one, and a validator is set,
      * "Del" without a selection cuts the character before the cursor even where the validator
@@ -86,7 +90,8 @@ public:
 
 Q_SIGNALS:
     /*!
-     * On panel type 13 only: the operator pressed hard key \a key (a Qt::Key value) of those that
+     * On panel type 13, which is read at every key: the operator pressed hard key \a key (a Qt::Key
+     * value), one of Up, Down, F1 to F5, F9 to F11, F13, F17, F18, F20, F25 to F27 and F32, which
      * belong to the application. The keypad has rejected itself by then, and exec() has not yet
      * returned.
      */

@@ -43,36 +43,38 @@ public:
     /*! Sets the series from the stored type. setDeviceInfo() does this already. */
     static void setDeviceSeries();
 
-    /*! The stored panel model; 1 before the first setDeviceInfo(). */
+    /*! The stored panel model; 1 at first. */
     static DeviceType deviceType();
 
     /*!
      * How the model is worked: 1 hard keys only, 2 touch screen only (model 14 has hard keys as
-     * well), 3 both, 4 the free-size touch panel, 0 an unknown model.
+     * well), 3 both, 4 the free-size touch panel, 0 an unknown model; 1 at first.
      */
     static int deviceSeries();
 
-    /*! Whether the panel has a touch screen. */
+    /*! Whether the panel has a touch screen; false at first. */
     static bool isTouchScreen();
 
-    /*! Whether the panel has hard keys. */
+    /*! Whether the panel has hard keys; true at first. */
     static bool hasKeyboard();
 
-    /*! Whether the application should re-size its fonts for this panel. */
+    /*! Whether the application should re-size its fonts for this panel; false at first. */
     static bool needToFormatFont();
 
     /*!
      * The screen size in pixels as the operator sees it: width and height are swapped while the
-     * rotation is exactly 90 or exactly 270. 640x480 before the first setDeviceInfo().
+     * rotation is exactly 90 or exactly 270. 640x480 at first, although type 1 has 800x600.
      */
     static QSize screenSize();
 
     /*!
-     * Registers the application's main view. It becomes the parent of every keypad built from now
-     * on, and keypads lay themselves over its viewport at every show.
+     * Registers the application's main view. It becomes the parent of every keypad that instance()
+     * builds from now on, and is read again at every show: keypads lay themselves over its
+     * viewport, or, as the G-code keypad does, over their target by way of it.
      *
      * Not owned and not watched: keep the view alive for as long as keypads are used. Null is
-     * accepted; a keypad built then is a top-level window.
+     * accepted: a keypad built then is a top-level window, and most keypads stay where they are
+     * when shown, but the axis keypad, and the G-code keypad for a widget, need a view to be shown.
      */
     static void setGraphicsView(QGraphicsView *view);
 

@@ -12,9 +12,11 @@
 #include <QDateTime>
 #include <QGraphicsView>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 static const int dateLength = 10;
 static const int timeLength = 8;
@@ -107,9 +109,9 @@ DateTimeKeypad::DateTimeKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
     , m_formatLength(0)
 {
-    createDisplay();
-    createFields();
-    createButtons();
+    setUpDisplay();
+    setUpFields();
+    setUpButtons();
 
     QVBoxLayout *layout = new QVBoxLayout(this);
     Keypad::setUpLayout(layout, keySpacing);
@@ -213,7 +215,7 @@ void DateTimeKeypad::slot_editingFinished()
         setActiveBase(field, QPalette(), white);
 }
 
-void DateTimeKeypad::createDisplay()
+void DateTimeKeypad::setUpDisplay()
 {
     m_lineEdit = new KeyBoardLineEdit(this);
     m_lineEdit->setEnabled(false);
@@ -221,7 +223,7 @@ void DateTimeKeypad::createDisplay()
     m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 }
 
-void DateTimeKeypad::createFields()
+void DateTimeKeypad::setUpFields()
 {
     for (int i = 0; i < FieldCount; ++i) {
         QSpinBox *field = new QSpinBox(this);
@@ -234,7 +236,7 @@ void DateTimeKeypad::createFields()
     }
 }
 
-void DateTimeKeypad::createButtons()
+void DateTimeKeypad::setUpButtons()
 {
     for (int i = 0; i < DigitCount; ++i)
         m_digitButtons[i] = createButton(tr(digitLabels[i]));

@@ -24,6 +24,11 @@ class QValidator;
  * At every show it covers the viewport of HMIDeviceInfo::graphicsView(); without a view it keeps
  * its geometry. Hard keys go to the focused spin box; Escape cancels. All texts are translated in
  * the context "DateTimeKeypad" when the keypad is built, so install a translator before that.
+ *
+ * The year goes from 1600 to 9999, the hour to 24: that is no time of day, and the display is then
+ * empty or, with a date, shows midnight. A field whose digits are no value is orange until it is
+ * right or left. "Ok" writes what the display shows; without a target it does nothing, and the
+ * keypad stays open.
  */
 class HMIDEVICE_EXPORT DateTimeKeypad : public QDialog
 {
@@ -47,7 +52,9 @@ public:
     /*!
      * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
      * previous target stays. Resets the edit line's echo mode and maximum length (32767), but not
-     * the format. Does not own \a object; an object destroyed later counts as no target.
+     * the format. Blocks the signals of \a object meanwhile and leaves them unblocked. Does not own
+     * it; an object destroyed later counts as no target. An object without the property gets a
+     * dynamic one.
      */
     void setObject(QObject *object);
 
@@ -55,7 +62,10 @@ public:
      * Chooses the format by its \a length in characters: 10 is a date ("yyyy-MM-dd"), 8 a time
      * ("hh:mm:ss"), and the spin boxes of the other half are disabled; anything else, 0 in a new
      * keypad included, is date and time ("yyyy-MM-dd hh:mm:ss") and leaves the spin boxes enabled
-     * as they were. It also limits the edit line to \a length characters. Kept by setObject().
+     * as they were. setObject() keeps the format.
+     *
+     * It also limits the edit line to \a length characters until the next setObject(): pass 19 for
+     * date and time, as a smaller number cuts off what is shown and written.
      */
     void setMaxLength(int length);
 
@@ -73,7 +83,10 @@ public:
      */
     void setText(const QString &text);
 
-    /*! Limits the day to those of \a month (1 to 12) in \a year; a day beyond is clamped. */
+    /*!
+     * Limits the day to those of \a month (1 to 12, any other has 31 days) in \a year; a day beyond
+     * is clamped. Holds until a spin box changes.
+     */
     void setSpinBoxDayRange(int year, int month);
 
     /*! The spin box that has the keyboard focus, or null. Owned by the keypad. */
@@ -90,9 +103,9 @@ private Q_SLOTS:
 private:
     enum { Year, Month, Day, Hour, Minute, Second, FieldCount, DigitCount = 10 };
 
-    void createDisplay();
-    void createFields();
-    void createButtons();
+    void setUpDisplay();
+    void setUpFields();
+    void setUpButtons();
     QToolButton *createButton(const QString &label);
     QLayout *displayAndDigits();
     QLayout *labelledFields();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FittedText_p.h"
 
+#include <QFontInfo>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
 
@@ -10,22 +11,30 @@ namespace {
 
 const int frameWidth = 2; // pixels
 const int smallestPixelSize = 8;
-// No label that an operator can read is longer; a dictionary may hold any text.
-const int longestDrawnText = 64;
+// A dictionary may hold any text; measuring stops where no panel is wide enough.
+const int longestMeasuredText = 1000;
+
+QSize sizeOf(const QFont &font, const QString &text, int flags)
+{
+    return QFontMetrics(font).size(flags, text.left(longestMeasuredText));
+}
+
+bool fits(const QSize &size, const QSize &room)
+{
+    return size.width() <= room.width() && size.height() <= room.height();
+}
+
+/* \a font, made as much smaller as a text of \a size in it needs to be drawn inside \a room. */
+QFont scaledDown(const QFont &font, const QSize &size, const QSize &room)
+{
+    const double scale =
+        qMin(double(room.width()) / qMax(1, size.width()), double(room.height()) / size.height());
+    QFont scaled(font);
+    scaled.setPixelSize(qMax(smallestPixelSize, int(QFontInfo(font).pixelSize() * scale)));
+    return scaled;
+}
 
 } // namespace
-
-QFont fittedFont(const QFont &font, const QString &text, const QSize &room)
-{
-    const QSize needed = QFontMetrics(font).size(Qt::TextShowMnemonic, text);
-    if (needed.width() <= room.width() && needed.height() <= room.height())
-        return font;
-    const double scale = qMin(double(room.width()) / qMax(1, needed.width()),
-                              double(room.height()) / qMax(1, needed.height()));
-    QFont fitted(font);
-    fitted.setPixelSize(qMax(smallestPixelSize, int(font.pixelSize() * scale)));
-    return fitted;
-}
 
 KeyButton::KeyButton(QWidget *parent)
     : QToolButton(parent)
@@ -48,7 +57,9 @@ void KeyButton::paintEvent(QPaintEvent *)
     QStyleOptionToolButton option;
     initStyleOption(&option);
     const QSize room = size() - QSize(2 * frameWidth, 2 * frameWidth);
-    option.font = fittedFont(font(), option.text, room);
+    const QSize needed = sizeOf(font(), option.text, Qt::TextShowMnemonic);
+    if (!fits(needed, room))
+        option.font = scaledDown(font(), needed, room);
     option.fontMetrics = QFontMetrics(option.font);
 
     QStylePainter painter(this);
@@ -56,15 +67,18 @@ void KeyButton::paintEvent(QPaintEvent *)
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
 }
 
-void paintFittedLabel(QLabel *label)
+bool paintFitted(QLabel *label)
 {
     const QRect room = label->contentsRect();
-    const QString text = label->text().left(longestDrawnText);
-
+    const QSize needed = sizeOf(label->font(), label->text(), 0);
+    if (fits(needed, room.size()))
+        return false;
     QPainter painter(label);
-    painter.setFont(fittedFont(label->font(), text, room.size()));
+    painter.setFont(scaledDown(label->font(), needed, room.size()));
     label->style()->drawItemText(&painter, room, int(label->alignment()), label->palette(),
-                                 label->isEnabled(), text, label->foregroundRole());
+                                 label->isEnabled(), label->text().left(longestMeasuredText),
+                                 label->foregroundRole());
+    return true;
 }
 
 } // namespace Keypad

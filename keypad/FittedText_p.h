@@ -10,9 +10,6 @@
 
 namespace Keypad {
 
-/* \a font, or a smaller one in which \a text is drawn inside \a room. */
-QFont fittedFont(const QFont &font, const QString &text, const QSize &room);
-
 class KeyButton : public QToolButton
 {
 public:
@@ -25,7 +22,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
-void paintFittedLabel(QLabel *label);
+/* Draws the text of \a label smaller and returns true if it would be clipped otherwise. */
+bool paintFitted(QLabel *label);
 
 template <class Label>
 class FittedLabel : public Label
@@ -47,7 +45,11 @@ public:
     QSize minimumSizeHint() const override { return QSize(0, this->fontMetrics().height()); }
 
 protected:
-    void paintEvent(QPaintEvent *) override { paintFittedLabel(this); }
+    void paintEvent(QPaintEvent *event) override
+    {
+        if (!paintFitted(this))
+            Label::paintEvent(event);
+    }
 
 private:
     int m_widthInLines;

@@ -131,19 +131,16 @@ void GCodeKeypad::slot_toolButton_clicked()
 {
     QToolButton *const editingKeys[] = { m_escKey,   m_bspKey,   m_leftKey,
                                          m_rightKey, m_enterKey, m_spaceKey };
-    const QToolButton *key = qobject_cast<QToolButton *>(sender());
-    if (!key)
-        return;
-    const int i = Keypad::indexOfKey(key, editingKeys, editingKeyCount);
-    const Keypad::KeyAction action = i < 0 ? Keypad::InsertLabel : editingCells[i].action;
-    Keypad::act(action, key->text(), this, m_object, m_lineEdit);
+    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
+        Keypad::act(Keypad::actionOf(key, editingCells, editingKeys, editingKeyCount), key->text(),
+                    this, m_object, m_lineEdit);
 }
 
 void GCodeKeypad::setUpCharKeys(QGridLayout *grid)
 {
     for (int row = 0; row < CharRows; ++row) {
         for (int i = 0; i < CharColumns; ++i) {
-            const QString label(QLatin1Char(charLabels[CharColumns * row + i]));
+            const QString label = QString::fromLatin1(charLabels + CharColumns * row + i, 1);
             m_charKeys[row][i] = Keypad::addKey(this, grid, label, row, charKeySpan * i,
                                                 charKeySpan, SLOT(slot_toolButton_clicked()));
         }

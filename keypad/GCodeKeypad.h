@@ -25,11 +25,15 @@ class QValidator;
  * At every show it lays itself over its target rather than over the application's view, with a
  * fixed size. The target's geometry() is mapped to global coordinates by the target itself (unless
  * it has no parent) and then by the viewport of HMIDeviceInfo::graphicsView(), which must be set
- * when the target is a widget: the keypad does not look. The offset of a target inside its parent
- * thus counts twice; a target whose top-left corner is that of its parent is covered exactly. A
- * target that is not a widget leaves place and size as they are, 320x240 pixels at first.
+ * when the target is a widget: the keypad does not look, and showing it without one crashes. The
+ * offset of a target inside its parent thus counts twice; a target whose top-left corner is that of
+ * its parent is covered exactly. A target that is not a widget leaves place and size as they are,
+ * 320x240 pixels at first.
  *
  * Return and Enter confirm, Escape cancels.
+ *
+ * Confirming writes what stands in the edit line, whether or not a validator accepts it as
+ * complete. Without a target it does nothing, and the keypad stays open.
  */
 class HMIDEVICE_EXPORT GCodeKeypad : public QDialog
 {
@@ -53,12 +57,14 @@ public:
     /*!
      * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
      * previous target stays. Resets echo mode, maximum length (32767) and enables every key; leaves
-     * the edit line's text, its validator and the limit line alone. Does not own \a object; an
-     * object destroyed later counts as no target.
+     * the edit line's text, its validator and the limit line alone. Blocks the signals of \a object
+     * meanwhile and leaves them unblocked. Does not own it; an object destroyed later counts as no
+     * target. An object without the property gets a dynamic one.
      */
     void setObject(QObject *object);
 
-    /*! Ignored: this keypad has no modes. It takes the call as every keypad with keys does. */
+    /*! Ignored: there are no modes. The call lets one piece of code drive keypads that have some.
+     */
     void setEditMode(int mode);
 
     /*! Ignored: the "." key is always enabled. */
@@ -87,7 +93,8 @@ public:
 
 Q_SIGNALS:
     /*!
-     * On panel type 13 only: the operator pressed hard key \a key (a Qt::Key value) of those that
+     * On panel type 13, which is read at every key: the operator pressed hard key \a key (a Qt::Key
+     * value), one of Up, Down, F1 to F5, F9 to F11, F13, F17, F18, F20, F25 to F27 and F32, which
      * belong to the application. The keypad has rejected itself by then, and exec() has not yet
      * returned.
      */

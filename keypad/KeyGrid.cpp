@@ -44,4 +44,10 @@ int indexOfKey(const QObject *key, QToolButton *const *keys, int count)
     return -1;
 }
 
+KeyAction actionOf(const QObject *key, const KeyCell *cells, QToolButton *const *keys, int count)
+{
+    const int i = indexOfKey(key, keys, count);
+    return i < 0 ? InsertLabel : cells[i].action;
+}
+
 } // namespace Keypad

@@ -44,6 +44,9 @@ void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, int count
 /* The position of \a key in \a keys, or -1. */
 int indexOfKey(const QObject *key, QToolButton *const *keys, int count);
 
+/* The action of \a key by its row in \a cells; a key that is not in \a keys inserts its label. */
+KeyAction actionOf(const QObject *key, const KeyCell *cells, QToolButton *const *keys, int count);
+
 } // namespace Keypad
 
 #endif

@@ -10,6 +10,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace Keypad {
 

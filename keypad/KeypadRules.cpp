@@ -90,8 +90,10 @@ void confirm(QDialog *keypad, QObject *target, const QLineEdit *editLine)
 {
     if (!target)
         return;
+    const QPointer<QDialog> open(keypad);
     target->setProperty("text", QVariant(editLine->text()));
-    keypad->accept();
+    if (open)
+        keypad->accept();
 }
 
 void act(KeyAction action, const QString &label, QDialog *keypad, QObject *target,

@@ -42,7 +42,7 @@ void showLimits(QLabel *tipLabel, const QString &text);
  */
 void confirm(QDialog *keypad, QObject *target, const QLineEdit *editLine);
 
-/* What \a key of a keypad does to its edit line; \a label is what the key shows. */
+/* What a key of \a keypad does, by its \a action; \a label is what the key shows. */
 void act(KeyAction action, const QString &label, QDialog *keypad, QObject *target,
          QLineEdit *editLine);
 

@@ -68,6 +68,7 @@ NumericKeypad *NumericKeypad::instance()
 NumericKeypad::NumericKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
+    static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
     QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
     Keypad::addKeys(this, grid, keyCells, KeyCount, m_keys, SLOT(slot_toolButton_clicked()));
     setEditMode(10);
@@ -140,9 +141,9 @@ void NumericKeypad::showEvent(QShowEvent *event)
 
 void NumericKeypad::slot_toolButton_clicked()
 {
-    const int i = Keypad::indexOfKey(sender(), m_keys, KeyCount);
-    if (i >= 0)
-        Keypad::act(keyCells[i].action, m_keys[i]->text(), this, m_object, m_lineEdit);
+    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
+        Keypad::act(Keypad::actionOf(key, keyCells, m_keys, KeyCount), key->text(), this, m_object,
+                    m_lineEdit);
 }
 
 void NumericKeypad::setKeysEnabled(const char *labels, bool enabled)

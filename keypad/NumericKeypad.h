@@ -22,6 +22,9 @@ class QValidator;
  *
  * At every show it covers the viewport of HMIDeviceInfo::graphicsView(). Without a view it keeps
  * its geometry, 320x240 pixels at first. Return and Enter confirm, Escape cancels.
+ *
+ * Confirming writes what stands in the edit line, whether or not a validator accepts it as
+ * complete. Without a target it does nothing, and the keypad stays open.
  */
 class HMIDEVICE_EXPORT NumericKeypad : public QDialog
 {
@@ -45,8 +48,9 @@ public:
     /*!
      * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
      * previous target stays. Resets echo mode, maximum length (32767) and enables every key; leaves
-     * the edit line's text, its validator and the limit line alone. Does not own \a object; an
-     * object destroyed later counts as no target.
+     * the edit line's text, its validator and the limit line alone. Blocks the signals of \a object
+     * meanwhile and leaves them unblocked. Does not own it; an object destroyed later counts as no
+     * target. An object without the property gets a dynamic one.
      */
     void setObject(QObject *object);
 
@@ -82,7 +86,8 @@ public:
 
 Q_SIGNALS:
     /*!
-     * On panel type 13 only: the operator pressed hard key \a key (a Qt::Key value) of those that
+     * On panel type 13, which is read at every key: the operator pressed hard key \a key (a Qt::Key
+     * value), one of Up, Down, F1 to F5, F9 to F11, F13, F17, F18, F20, F25 to F27 and F32, which
      * belong to the application. The keypad has rejected itself by then, and exec() has not yet
      * returned.
      */

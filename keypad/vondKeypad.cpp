@@ -17,7 +17,7 @@
 
 // clang-format off
 // Cell (0, 0) stays empty: the letter columns read U-V-W, A-B-C and X-Y-Z downwards.
-static const Keypad::KeyCell keyCells[] = {
+static const Keypad::KeyCell wordCells[] = {
     { "F",         0, 1, 1, Keypad::InsertLabel },
     { "G",         0, 2, 1, Keypad::InsertLabel },
     { "7",         0, 3, 1, Keypad::InsertLabel },
@@ -42,7 +42,10 @@ static const Keypad::KeyCell keyCells[] = {
     { "C",         3, 1, 1, Keypad::InsertLabel },
     { "Z",         3, 2, 1, Keypad::InsertLabel },
     { "0",         3, 3, 1, Keypad::InsertLabel },
-    { ".",         3, 4, 1, Keypad::InsertLabel },
+    { ".",         3, 4, 1, Keypad::InsertLabel }
+};
+
+static const Keypad::KeyCell editingCells[] = {
     { "-",         3, 5, 1, Keypad::ToggleSign  },
 
     { "←",         4, 0, 1, Keypad::MoveLeft    },
@@ -53,6 +56,8 @@ static const Keypad::KeyCell keyCells[] = {
     { "Enter",     4, 5, 1, Keypad::Confirm     }
 };
 // clang-format on
+
+static const int editingKeyCount = int(sizeof(editingCells) / sizeof(editingCells[0]));
 
 vondKeypad *vondKeypad::m_instance = nullptr;
 
@@ -67,7 +72,10 @@ vondKeypad::vondKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
     QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
-    Keypad::addKeys(this, grid, keyCells, KeyCount, m_keys, SLOT(slot_toolButton_clicked()));
+    static_assert(sizeof(wordCells) == WordKeyCount * sizeof(wordCells[0]), "a cell for each key");
+    Keypad::addKeys(this, grid, wordCells, WordKeyCount, m_wordKeys,
+                    SLOT(slot_toolButton_clicked()));
+    setUpEditingKeys(grid);
     Keypad::finishFixedFace(this, m_tipLabel);
 }
 
@@ -129,7 +137,23 @@ void vondKeypad::showEvent(QShowEvent *event)
 
 void vondKeypad::slot_toolButton_clicked()
 {
-    const int i = Keypad::indexOfKey(sender(), m_keys, KeyCount);
-    if (i >= 0)
-        Keypad::act(keyCells[i].action, m_keys[i]->text(), this, m_object, m_lineEdit);
+    QToolButton *const editingKeys[] = { m_signKey, m_leftKey,  m_rightKey, m_escKey,
+                                         m_bspKey,  m_spaceKey, m_enterKey };
+    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
+        Keypad::act(Keypad::actionOf(key, editingCells, editingKeys, editingKeyCount), key->text(),
+                    this, m_object, m_lineEdit);
+}
+
+void vondKeypad::setUpEditingKeys(QGridLayout *grid)
+{
+    QToolButton *keys[editingKeyCount];
+    Keypad::addKeys(this, grid, editingCells, editingKeyCount, keys,
+                    SLOT(slot_toolButton_clicked()));
+    m_signKey = keys[0];
+    m_leftKey = keys[1];
+    m_rightKey = keys[2];
+    m_escKey = keys[3];
+    m_bspKey = keys[4];
+    m_spaceKey = keys[5];
+    m_enterKey = keys[6];
 }

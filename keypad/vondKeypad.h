@@ -8,6 +8,7 @@
 #include <QPointer>
 
 class KeyBoardLineEdit;
+class QGridLayout;
 class QLabel;
 class QToolButton;
 class QValidator;
@@ -22,7 +23,11 @@ class QValidator;
  * exec() returns QDialog::Accepted when the field was written, else QDialog::Rejected.
  *
  * At every show it covers the viewport of HMIDeviceInfo::graphicsView(). A view must be registered
- * before the keypad is shown: it does not look. Return and Enter confirm, Escape cancels.
+ * before the keypad is shown: it does not look, and showing it without one crashes. Return and
+ * Enter confirm, Escape cancels.
+ *
+ * Confirming writes what stands in the edit line, whether or not a validator accepts it as
+ * complete. Without a target it does nothing, and the keypad stays open.
  */
 class HMIDEVICE_EXPORT vondKeypad : public QDialog
 {
@@ -46,12 +51,14 @@ public:
     /*!
      * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
      * previous target stays. Resets echo mode, maximum length (32767) and enables every key; leaves
-     * the edit line's text, its validator and the limit line alone. Does not own \a object; an
-     * object destroyed later counts as no target.
+     * the edit line's text, its validator and the limit line alone. Blocks the signals of \a object
+     * meanwhile and leaves them unblocked. Does not own it; an object destroyed later counts as no
+     * target. An object without the property gets a dynamic one.
      */
     void setObject(QObject *object);
 
-    /*! Ignored: this keypad has no modes. It takes the call as every keypad with keys does. */
+    /*! Ignored: there are no modes. The call lets one piece of code drive keypads that have some.
+     */
     void setEditMode(int mode);
 
     /*! Ignored: the "." key is always enabled. */
@@ -80,7 +87,8 @@ public:
 
 Q_SIGNALS:
     /*!
-     * On panel type 13 only: the operator pressed hard key \a key (a Qt::Key value) of those that
+     * On panel type 13, which is read at every key: the operator pressed hard key \a key (a Qt::Key
+     * value), one of Up, Down, F1 to F5, F9 to F11, F13, F17, F18, F20, F25 to F27 and F32, which
      * belong to the application. The keypad has rejected itself by then, and exec() has not yet
      * returned.
      */
@@ -94,14 +102,23 @@ private Q_SLOTS:
     void slot_toolButton_clicked();
 
 private:
-    enum { KeyCount = 29 };
+    enum { WordKeyCount = 22 };
+
+    void setUpEditingKeys(QGridLayout *grid);
 
     static vondKeypad *m_instance;
 
     QPointer<QObject> m_object;
     QLabel *m_tipLabel;
     KeyBoardLineEdit *m_lineEdit;
-    QToolButton *m_keys[KeyCount];
+    QToolButton *m_wordKeys[WordKeyCount];
+    QToolButton *m_signKey;
+    QToolButton *m_leftKey;
+    QToolButton *m_rightKey;
+    QToolButton *m_escKey;
+    QToolButton *m_bspKey;
+    QToolButton *m_spaceKey;
+    QToolButton *m_enterKey;
 };
 
 #endif
