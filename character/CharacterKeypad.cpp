@@ -17,7 +17,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QSignalMapper>
-#include <QSqlTableModel>
 #include <QToolButton>
 #include <QVariant>
 
@@ -46,6 +45,13 @@ static const struct
     { 5, 3,  7 }
 };
 // clang-format on
+
+// The hidden one goes first, so that the layout never has to find room for both.
+static void showPanel(QWidget *shown, QWidget *hidden)
+{
+    hidden->hide();
+    shown->show();
+}
 
 CharacterKeypad *CharacterKeypad::m_instance = nullptr;
 
@@ -228,21 +234,16 @@ QList<QWidget *> CharacterKeypad::mappedKeys() const
 
 void CharacterKeypad::setUpEnglish()
 {
-    setUpLetters(lowerCaseKeys, "caps", "CN");
+    labelLetters(lowerCaseKeys, "caps", "CN");
     showPanel(m_numPanel, m_chnPanel);
+    setUpMapper();
 }
 
 void CharacterKeypad::setUpEnglishCaps()
 {
-    setUpLetters(capitalKeys, "CAPS", "CN");
+    labelLetters(capitalKeys, "CAPS", "CN");
     showPanel(m_numPanel, m_chnPanel);
-}
-
-void CharacterKeypad::setUpChanese()
-{
-    setUpLetters(lowerCaseKeys, "", "EN");
-    m_modeKey->setEnabled(false);
-    showPanel(m_chnPanel, m_numPanel);
+    setUpMapper();
 }
 
 void CharacterKeypad::setUpSpecialSymbols()
@@ -257,23 +258,23 @@ void CharacterKeypad::setUpSpecialSymbols()
     setUpMapper();
 }
 
-void CharacterKeypad::setUpLetters(const char *letters, const char *modeLabel,
+void CharacterKeypad::setUpChanese()
+{
+    labelLetters(lowerCaseKeys, "", "EN");
+    showPanel(m_chnPanel, m_numPanel);
+    setUpMapper();
+}
+
+void CharacterKeypad::labelLetters(const char *letters, const char *modeLabel,
                                    const char *languageLabel)
 {
     for (int i = 0; i < LetterCount; ++i)
         m_letterKeys[i]->setText(QString(QLatin1Char(letters[i])));
     m_modeKey->setText(QLatin1String(modeLabel));
-    m_modeKey->setEnabled(true);
+    m_modeKey->setEnabled(*modeLabel != '\0');
     m_languageKey->setText(QLatin1String(languageLabel));
     m_symbolKey->setText(QLatin1String("*#"));
     m_symbolKey->setEnabled(true);
-    setUpMapper();
-}
-
-void CharacterKeypad::showPanel(QWidget *shown, QWidget *hidden)
-{
-    hidden->hide();
-    shown->show();
 }
 
 void CharacterKeypad::setModes(Mode last, Mode current)
@@ -361,7 +362,8 @@ void CharacterKeypad::deleteCharacter()
         m_lineEdit->backspace();
         return;
     }
-    // A validator that knows only whole dates refuses backspace(); the text is cut and set instead.
+    // A validator that knows only whole dates may refuse backspace(), which is still tried so that
+    // the edit line tells of an edit; the shorter text is then set whole.
     const int cursor = m_lineEdit->cursorPosition();
     QString text = m_lineEdit->text();
     text.remove(cursor - 1, 1);

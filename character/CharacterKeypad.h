@@ -35,8 +35,10 @@ class QValidator;
  *
  * Chinese candidates come from the SQLite file "data.db" in the application's directory: table
  * "pinyin", first column "py" (a pinyin of at most 11 lower-case letters, ü as v), second column
- * one candidate, rows in ranking order. It is opened read-only when the keypad is built, under the
- * connection name "pinyin", and queried once for each letter; without it there are no candidates.
+ * one candidate, rows in ranking order. Give it an index on "py", or every letter reads the whole
+ * table; at most 256 rows of a pinyin are seen. It is opened read-only when the keypad is built,
+ * under the connection name "pinyin", and queried once for each letter typed or taken back; without
+ * it there are no candidates. Replace a file in use by renaming another over it.
  */
 class HMIDEVICE_EXPORT CharacterKeypad : public QDialog
 {
@@ -52,8 +54,8 @@ public:
 
     /*!
      * Builds a keypad in English lower case, with \a flags and Qt::FramelessWindowHint; \a parent
-     * may be null. Applications use instance(): two at a time would share one dictionary
-     * connection.
+     * may be null. Applications use instance(): of two at a time, the second takes the dictionary's
+     * connection from the first.
      */
     CharacterKeypad(QWidget *parent, Qt::WindowFlags flags);
 
@@ -69,7 +71,7 @@ public:
      *
      * When \a object is of a class "DateTimeField", or derived from one, and a validator is set,
      * "Del" without a selection cuts the character before the cursor even where the validator
-     * would refuse it.
+     * would refuse it, and the last one when the cursor is at the beginning.
      */
     void setObject(QObject *object);
 
@@ -119,8 +121,7 @@ private:
     void setUpEnglishCaps();
     void setUpSpecialSymbols();
     void setUpChanese();
-    void setUpLetters(const char *letters, const char *modeLabel, const char *languageLabel);
-    void showPanel(QWidget *shown, QWidget *hidden);
+    void labelLetters(const char *letters, const char *modeLabel, const char *languageLabel);
     void setModes(Mode last, Mode current);
 
     void sendEnContent(const QString &text);

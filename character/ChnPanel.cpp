@@ -7,7 +7,6 @@
 #include "LabelMapping_p.h"
 
 #include <QHBoxLayout>
-#include <QSignalMapper>
 
 // On the narrowest panel a long pinyin needs more room than a candidate.
 static const int pinyinWidthInLines = 3;

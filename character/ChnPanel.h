@@ -19,7 +19,8 @@ class QToolButton;
  * It does not keep the candidates. Each call that shows some takes the whole list, which must not
  * change between setNewPinYin() and the paging calls that follow, and a signal mapper, in which
  * every candidate label is mapped to the text that it shows. Calls without a mapper do nothing.
- * Neither list nor mapper is owned.
+ * Neither list nor mapper is owned. Connect the clicked() signals of labels and buttons to the
+ * mapper's map(), and map the buttons, yourself: the strip does neither.
  */
 class HMIDEVICE_EXPORT ChnPanel : public QWidget
 {

@@ -8,7 +8,7 @@
 
 class QToolButton;
 
-/*! The row of digit keys, "0" to "9", of the character keypad. */
+/*! The row of digit keys, "0" to "9", of the character keypad. Connect their clicks yourself. */
 class HMIDEVICE_EXPORT NumPanel : public QWidget
 {
     Q_OBJECT

@@ -2,7 +2,9 @@
 #include "PinyinDictionary_p.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QSqlTableModel>
 #include <QVariant>
 
@@ -10,37 +12,47 @@ namespace PinyinDictionary {
 
 namespace {
 
+const char driverName[] = "QSQLITE";
 const char connectionName[] = "pinyin";
+const char tableName[] = "pinyin";
 const int candidateColumn = 1;
 
 // Read-only, so that a missing file stays missing; no waiting, so that a key is never held up by a
 // process that writes the file.
 const char connectOptions[] = "QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=0";
 
+bool query(QSqlTableModel *model, const QString &filter)
+{
+    model->setFilter(filter); // queries at once, unless the last query failed
+    return model->query().isActive() || model->select();
+}
+
 } // namespace
 
 QSqlTableModel *open(QObject *parent)
 {
+    if (!QSqlDatabase::isDriverAvailable(QLatin1String(driverName)))
+        return nullptr;
+    const QString file = QCoreApplication::applicationDirPath() + QLatin1String("/data.db");
     QSqlDatabase database =
-        QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), QLatin1String(connectionName));
-    database.setDatabaseName(QCoreApplication::applicationDirPath() + QLatin1String("/data.db"));
+        QSqlDatabase::addDatabase(QLatin1String(driverName), QLatin1String(connectionName));
+    database.setDatabaseName(file);
     database.setConnectOptions(QLatin1String(connectOptions));
-    if (!database.open())
+    // Opening a pipe of that name would wait for a writer.
+    if (!QFileInfo(file).isFile() || !database.open())
         return nullptr;
     QSqlTableModel *model = new QSqlTableModel(parent, database);
-    model->setTable(QLatin1String("pinyin"));
+    model->setTable(QLatin1String(tableName));
     model->select();
     return model;
 }
 
 void close(QSqlTableModel *model)
 {
-    // Fetching a connection tries to open it and warns when it cannot: only ask for one that was.
-    const bool opened = model != nullptr;
     delete model;
     QString name;
     {
-        QSqlDatabase database = QSqlDatabase::database(QLatin1String(connectionName), opened);
+        QSqlDatabase database = QSqlDatabase::database(QLatin1String(connectionName), false);
         name = database.connectionName();
         database.rollback();
         database.close();
@@ -54,7 +66,12 @@ QStringList candidates(QSqlTableModel *model, const QString &pinyin)
     QStringList list;
     if (!model)
         return list;
-    model->setFilter(QString::fromLatin1("py == '%1'").arg(pinyin));
+    const QString filter = QString::fromLatin1("py == '%1'").arg(pinyin);
+    if (!query(model, filter)) {
+        // A file that was locked for a moment leaves the model without columns: read them again.
+        model->setTable(QLatin1String(tableName));
+        query(model, filter);
+    }
     const int rows = model->rowCount();
     for (int row = 0; row < rows; ++row)
         list.append(model->data(model->index(row, candidateColumn)).toString());

@@ -2,6 +2,7 @@
 #include "FittedText_p.h"
 
 #include <QFontInfo>
+#include <QStyle>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
 
