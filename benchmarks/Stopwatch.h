@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#ifndef STOPWATCH_H
+#define STOPWATCH_H
+
+#include <functional>
+
+struct Comparison
+{
+    double library; // microseconds
+    double floor;   // microseconds
+};
+
+/*
+ * Medians of \a rounds rounds, each of which runs both operations once, in turns, so that a change
+ * of the processor's pace touches both alike.
+ */
+Comparison compare(const std::function<void()> &library, const std::function<void()> &floor,
+                   int rounds);
+
+/* The process's resident memory in KiB, or 0 where the system does not tell. */
+long residentMemory();
+
+#endif
