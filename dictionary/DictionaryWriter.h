@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#ifndef HMI_DICTIONARY_DICTIONARYWRITER_H
+#define HMI_DICTIONARY_DICTIONARYWRITER_H
+
+#include "Ranking.h"
+
+/*!
+ * Writes \a rows as the dictionary file \a fileName. The same rows give the same bytes.
+ *
+ * The file is built beside its final place and takes it as a whole: until then, and for good when
+ * a Failure is thrown, an older file stays as it was and nothing else is left.
+ */
+void writeDictionary(const QString &fileName, const QVector<DictionaryRow> &rows);
+
+#endif
