@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: MIT
+#include "support/OpenKeypad.h"
+#include "support/QtDifferences.h"
+
+#include <HMIDevice/vondKeypad.h>
+
+#include <QGridLayout>
+#include <QIntValidator>
+
+// The axis keypad's own keys; what it shares with other keypads is tested elsewhere.
+
+static const char allLabels[] =
+    "F G 7 8 9 U A X 4 5 6 V B Y 1 2 3 W C Z 0 . - ← → ESC BSP └─┘ Enter";
+
+class tst_vondKeypad : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void keysAreCreatedInOrder();
+    void keysLieInTheirCells_data();
+    void keysLieInTheirCells();
+    void theTopLeftCellStaysEmpty();
+    void columnsShareTheWidthEqually();
+    void allKeysAreEnabledWhateverIsAsked();
+    void insertingKeysTypeTheirLabel_data();
+    void insertingKeysTypeTheirLabel();
+    void theSpaceKeyTypesOneSpace();
+    void editingKeysMoveAndErase_data();
+    void editingKeysMoveAndErase();
+    void signKeyTogglesTheLeadingMinus_data();
+    void signKeyTogglesTheLeadingMinus();
+    void signKeyTwiceGivesTheSameTextAndCursor();
+    void signKeyPassesByTheValidator();
+    void signKeyObeysTheMaximumLength();
+    void validatorAndMaximumLengthRefuseKeys();
+    void typedAxisWordReachesTheTarget();
+    void escEndsTheEntry();
+    void aCallWithoutKeyDoesNothing();
+};
+
+void tst_vondKeypad::initTestCase()
+{
+    QtDifferences::readLiteralsAsGbk();
+}
+
+void tst_vondKeypad::keysAreCreatedInOrder()
+{
+    vondKeypad keypad(nullptr, Qt::WindowFlags());
+    QCOMPARE(keyLabels(&keypad), labelList(allLabels));
+}
+
+void tst_vondKeypad::keysLieInTheirCells_data()
+{
+    // A blank at the start stands for the empty cell.
+    static const char *const face[] = {
+        " F G 7 8 9", "U A X 4 5 6", "V B Y 1 2 3", "W C Z 0 . -", "← → ESC BSP └─┘ Enter",
+    };
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QRect>("cell");
+    for (int row = 0; row < 5; ++row) {
+        const QStringList labels = labelList(face[row]);
+        QCOMPARE(int(labels.size()), 6);
+        for (int column = 0; column < 6; ++column) {
+            if (!labels.at(column).isEmpty())
+                QTest::newRow(labels.at(column).toUtf8().constData())
+                    << labels.at(column) << QRect(column, row, 1, 1);
+        }
+    }
+}
+
+void tst_vondKeypad::keysLieInTheirCells()
+{
+    QFETCH(QString, label);
+    vondKeypad keypad(nullptr, Qt::WindowFlags());
+    QTEST(gridCells(&keypad, label), "cell");
+}
+
+void tst_vondKeypad::theTopLeftCellStaysEmpty()
+{
+    vondKeypad keypad(nullptr, Qt::WindowFlags());
+    const QGridLayout *grid = keypad.findChild<QGridLayout *>();
+    QCOMPARE(grid->rowCount(), 5);
+    QCOMPARE(grid->columnCount(), 6);
+    QCOMPARE(grid->count(), 29);
+    for (int row = 0; row < 5; ++row) {
+        for (int column = 0; column < 6; ++column)
+            QCOMPARE(!grid->itemAtPosition(row, column), row == 0 && column == 0);
+    }
+}
+
+void tst_vondKeypad::columnsShareTheWidthEqually()
+{
+    OpenKeypad<vondKeypad> open;
+    const QGridLayout *grid = open.keypad.findChild<QGridLayout *>();
+    int narrowest = open.keypad.width();
+    int widest = 0;
+    for (int column = 0; column < 6; ++column) {
+        QCOMPARE(grid->columnStretch(column), 0);
+        narrowest = qMin(narrowest, grid->cellRect(4, column).width());
+        widest = qMax(widest, grid->cellRect(4, column).width());
+    }
+    QVERIFY2(widest - narrowest <= 1,
+             qPrintable(QString::fromLatin1("%1 to %2 pixels").arg(narrowest).arg(widest)));
+}
+
+void tst_vondKeypad::allKeysAreEnabledWhateverIsAsked()
+{
+    vondKeypad keypad(nullptr, Qt::WindowFlags());
+    QCOMPARE(enabledKeyLabels(&keypad), labelList(allLabels));
+    const int modes[] = { 2, 10, 16, 0, -1 };
+    for (int mode : modes)
+        keypad.setEditMode(mode);
+    keypad.setDecimalPointEnabled(false);
+    QCOMPARE(enabledKeyLabels(&keypad), labelList(allLabels));
+    key(&keypad, u("."))->setEnabled(false);
+    keypad.setDecimalPointEnabled(true);
+    QVERIFY(!key(&keypad, u("."))->isEnabled());
+}
+
+void tst_vondKeypad::insertingKeysTypeTheirLabel_data()
+{
+    QTest::addColumn<QString>("label");
+    const QStringList labels = labelList("F G 7 8 9 U A X 4 5 6 V B Y 1 2 3 W C Z 0 .");
+    for (int i = 0; i < labels.size(); ++i)
+        QTest::newRow(qPrintable(labels.at(i))) << labels.at(i);
+}
+
+void tst_vondKeypad::insertingKeysTypeTheirLabel()
+{
+    QFETCH(QString, label);
+    OpenKeypad<vondKeypad> open(u("X5"));
+    tap(&open.keypad, label); // replaces the selection
+    QCOMPARE(open.line()->text(), label);
+    tap(&open.keypad, label);
+    tap(&open.keypad, u("←"));
+    tap(&open.keypad, u("1"));
+    QCOMPARE(open.line()->text(), label + u("1") + label);
+    QCOMPARE(open.line()->cursorPosition(), 2);
+    QCOMPARE(open.target.text(), QString());
+}
+
+void tst_vondKeypad::theSpaceKeyTypesOneSpace()
+{
+    OpenKeypad<vondKeypad> open(u("X5"));
+    tapAll(&open.keypad, u("X 5 └─┘ Y 1"));
+    QCOMPARE(open.line()->text(), u("X5 Y1"));
+}
+
+void tst_vondKeypad::editingKeysMoveAndErase_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("cursor");
+    // All begin with X12, selected.
+    QTest::newRow("left of a selection") << u("←") << u("X12") << 2;
+    QTest::newRow("left stops at the start") << u("← ← ← ← ←") << u("X12") << 0;
+    QTest::newRow("right stops at the end") << u("← → → →") << u("X12") << 3;
+    QTest::newRow("erase a selection") << u("BSP") << u("") << 0;
+    QTest::newRow("erase from empty") << u("BSP BSP") << u("") << 0;
+    QTest::newRow("erase in the middle") << u("← BSP") << u("X2") << 1;
+    QTest::newRow("erase at the start") << u("← ← ← BSP") << u("X12") << 0;
+    QTest::newRow("type in the middle") << u("← . G") << u("X1.G2") << 4;
+}
+
+void tst_vondKeypad::editingKeysMoveAndErase()
+{
+    QFETCH(QString, keys);
+    OpenKeypad<vondKeypad> open(u("X12"));
+    tapAll(&open.keypad, keys);
+    QTEST(open.line()->text(), "text");
+    QTEST(open.line()->cursorPosition(), "cursor");
+    QVERIFY(!open.line()->hasSelectedText());
+}
+
+void tst_vondKeypad::signKeyTogglesTheLeadingMinus_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("cursor"); // -1: everything selected
+    QTest::addColumn<QString>("newText");
+    QTest::addColumn<int>("newCursor");
+
+    QTest::newRow("plain, cursor at the end") << u("12.5") << 4 << u("-12.5") << 5;
+    QTest::newRow("negative, cursor at the end") << u("-12.5") << 5 << u("12.5") << 4;
+    QTest::newRow("minus signs everywhere, cursor inside") << u("-X-5") << 2 << u("X5") << 1;
+    QTest::newRow("minus signs everywhere, cursor at the end") << u("-X-5") << 4 << u("X5") << 2;
+    QTest::newRow("a minus sign further on") << u("X-5") << 3 << u("-X-5") << 4;
+    QTest::newRow("empty") << u("") << 0 << u("-") << 1;
+    QTest::newRow("lone minus sign") << u("-") << 1 << u("") << 0;
+    QTest::newRow("negative, cursor before the sign") << u("-X5") << 0 << u("X5") << 0;
+    QTest::newRow("a space in front") << u(" -5") << 3 << u("- -5") << 4;
+    QTest::newRow("plain, selected") << u("X5") << -1 << u("-X5") << -1;
+    QTest::newRow("minus signs everywhere, selected") << u("-X-5") << -1 << u("X5") << -1;
+}
+
+void tst_vondKeypad::signKeyTogglesTheLeadingMinus()
+{
+    QFETCH(QString, text);
+    QFETCH(int, cursor);
+    QFETCH(QString, newText);
+    QFETCH(int, newCursor);
+    OpenKeypad<vondKeypad> open(text);
+    if (cursor >= 0)
+        open.line()->setCursorPosition(cursor);
+
+    tap(&open.keypad, u("-"));
+
+    QCOMPARE(open.line()->text(), newText);
+    if (newCursor >= 0) {
+        QCOMPARE(open.line()->cursorPosition(), newCursor);
+        QVERIFY(!open.line()->hasSelectedText());
+    } else {
+        QCOMPARE(open.line()->selectedText(), newText);
+    }
+}
+
+void tst_vondKeypad::signKeyTwiceGivesTheSameTextAndCursor()
+{
+    OpenKeypad<vondKeypad> open(u("12.5"));
+    for (int cursor = 0; cursor <= 4; ++cursor) {
+        open.line()->setCursorPosition(cursor);
+        tapAll(&open.keypad, u("- -"));
+        QCOMPARE(open.line()->text(), u("12.5"));
+        QCOMPARE(open.line()->cursorPosition(), cursor);
+    }
+}
+
+void tst_vondKeypad::signKeyPassesByTheValidator()
+{
+    OpenKeypad<vondKeypad> open(u("5"));
+    QIntValidator validator(0, 99, nullptr);
+    open.keypad.setValidator(&validator);
+    open.keypad.setText(u("5"));
+    tap(&open.keypad, u("-"));
+    QCOMPARE(open.line()->text(), u("-5"));
+    QVERIFY(!open.line()->hasAcceptableInput());
+}
+
+void tst_vondKeypad::signKeyObeysTheMaximumLength()
+{
+    OpenKeypad<vondKeypad> open;
+    open.keypad.setMaxLength(3);
+    open.keypad.setText(u("X12"));
+    open.line()->setCursorPosition(3);
+    tap(&open.keypad, u("-"));
+    QCOMPARE(open.line()->text(), u("-X1"));
+    QCOMPARE(open.line()->cursorPosition(), 3);
+}
+
+void tst_vondKeypad::validatorAndMaximumLengthRefuseKeys()
+{
+    OpenKeypad<vondKeypad> open;
+    QIntValidator validator(0, 9999, nullptr);
+    open.keypad.setValidator(&validator);
+    open.keypad.setMaxLength(3);
+    tapAll(&open.keypad, u("1 X . └─┘ 2 3 4"));
+    QCOMPARE(open.line()->text(), u("123"));
+}
+
+void tst_vondKeypad::typedAxisWordReachesTheTarget()
+{
+    OpenKeypad<vondKeypad> open(u("Z0"));
+    open.keypad.hide();
+    const int result =
+        execWhile(&open.keypad, [&] { tapAll(&open.keypad, u("X 1 2 . 5 - BSP 7 Enter")); });
+    QCOMPARE(result, int(QDialog::Accepted));
+    QCOMPARE(open.target.text(), u("-X12.7"));
+}
+
+void tst_vondKeypad::escEndsTheEntry()
+{
+    OpenKeypad<vondKeypad> open(u("Z0"));
+    open.keypad.hide();
+    const int result = execWhile(&open.keypad, [&] { tapAll(&open.keypad, u("X 1 ESC")); });
+    QCOMPARE(result, int(QDialog::Rejected));
+    QCOMPARE(open.target.text(), QString());
+    QCOMPARE(open.line()->text(), u("X1"));
+}
+
+void tst_vondKeypad::aCallWithoutKeyDoesNothing()
+{
+    OpenKeypad<vondKeypad> open(u("X1"));
+    QVERIFY(QMetaObject::invokeMethod(&open.keypad, "slot_toolButton_clicked"));
+    QVERIFY(open.keypad.isVisible());
+    QCOMPARE(open.line()->selectedText(), u("X1"));
+    QCOMPARE(open.target.text(), QString());
+}
+
+QTEST_MAIN(tst_vondKeypad)
+
+#include "tst_vondKeypad.moc"

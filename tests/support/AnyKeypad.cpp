@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "AnyKeypad.h"
+
+#include <HMIDevice/CharacterKeypad.h>
+#include <HMIDevice/DateTimeKeypad.h>
+#include <HMIDevice/GCodeKeypad.h>
+#include <HMIDevice/NumericKeypad.h>
+#include <HMIDevice/vondKeypad.h>
+
+namespace {
+
+template <class Keypad>
+auto limit(Keypad *keypad, const QString &text, int) -> decltype(keypad->setLimitToolTip(text))
+{
+    keypad->setLimitToolTip(text);
+}
+
+void limit(QDialog *, const QString &, long)
+{
+    QFAIL("this keypad has no line for limits");
+}
+
+template <class Keypad>
+class Adaptor : public AnyKeypad
+{
+public:
+    Adaptor(QWidget *parent, Qt::WindowFlags flags)
+        : m_keypad(parent, flags)
+    {
+    }
+
+    QDialog *dialog() override { return &m_keypad; }
+    void setObject(QObject *object) override { m_keypad.setObject(object); }
+    void setText(const QString &text) override { m_keypad.setText(text); }
+    void setMaxLength(int length) override { m_keypad.setMaxLength(length); }
+    void setValidator(const QValidator *v) override { m_keypad.setValidator(v); }
+    void setPasswordEchoMode(bool on) override { m_keypad.setPasswordEchoMode(on); }
+    void setLimitToolTip(const QString &text) override { limit(&m_keypad, text, 0); }
+
+private:
+    Keypad m_keypad;
+};
+
+template <class Keypad>
+AnyKeypad *create(QWidget *parent, Qt::WindowFlags flags)
+{
+    return new Adaptor<Keypad>(parent, flags);
+}
+
+// clang-format off
+const KeypadKind keypadKinds[] = {
+    { "NumericKeypad", create<NumericKeypad>, "Enter", "ESC", "12.5", "-3",
+      FixedFace | TypesText },
+    { "GCodeKeypad", create<GCodeKeypad>, "Enter", "ESC", "G01X5", "M30",
+      FixedFace | TypesText | CoversTarget },
+    { "vondKeypad", create<vondKeypad>, "Enter", "ESC", "X12.5", "-Y3",
+      FixedFace | TypesText },
+    { "DateTimeKeypad", create<DateTimeKeypad>, "Ok", "Cancel",
+      "2024-02-29 12:34:56", "1999-12-31 23:59:59", 0 },
+    { "CharacterKeypad", create<CharacterKeypad>, "Enter", "Esc", "abc", "hello world",
+      TypesText }
+};
+// clang-format on
+
+} // namespace
+
+void addKeypadRows()
+{
+    QTest::addColumn<int>("keypad");
+    const int count = int(sizeof(keypadKinds) / sizeof(keypadKinds[0]));
+    for (int i = 0; i < count; ++i)
+        QTest::newRow(keypadKinds[i].className) << i;
+}
+
+const KeypadKind &currentKind()
+{
+    QFETCH_GLOBAL(int, keypad);
+    return keypadKinds[keypad];
+}
+
+KeypadStage::KeypadStage(DeviceType type, const QSize &size, PanelView::Frame frame)
+    : m_view(type, size, frame)
+    , m_keypad(currentKind().create(&m_view, Qt::WindowFlags()))
+{
+}

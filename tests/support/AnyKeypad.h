@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#ifndef ANYKEYPAD_H
+#define ANYKEYPAD_H
+
+#include "KeypadDriver.h"
+
+#include <QApplication>
+#include <QScopedPointer>
+
+class QValidator;
+
+// All five keypads as one, for tests of what they have in common.
+
+/* What an application calls on every keypad; the keypads share no base class but QDialog. */
+class AnyKeypad
+{
+public:
+    virtual ~AnyKeypad() { }
+
+    virtual QDialog *dialog() = 0;
+    virtual void setObject(QObject *object) = 0;
+    virtual void setText(const QString &text) = 0;
+    virtual void setMaxLength(int length) = 0;
+    virtual void setValidator(const QValidator *validator) = 0;
+    virtual void setPasswordEchoMode(bool on) = 0;
+
+    /* Only for keypads with a fixed face; fails the test on any other. */
+    virtual void setLimitToolTip(const QString &text) = 0;
+};
+
+enum KeypadTrait {
+    FixedFace = 1,   // a line for limits; binding enables all keys; 320x240 pixels at first
+    TypesText = 2,   // selects its text, answers hard keys, is dark on panel type 13
+    CoversTarget = 4 // lies over its target instead of the view
+};
+
+struct KeypadKind
+{
+    const char *className;
+    AnyKeypad *(*create)(QWidget *parent, Qt::WindowFlags flags);
+    const char *confirmLabel;
+    const char *cancelLabel;
+    const char *sampleText; // shown unchanged
+    const char *otherText;  // the same
+    int traits;
+
+    bool has(KeypadTrait trait) const { return (traits & trait) != 0; }
+};
+
+/* For initTestCase_data(): every test function then runs once for each keypad. */
+void addKeypadRows();
+
+/* The keypad that the current global row is about. */
+const KeypadKind &currentKind();
+
+/* A new keypad of the current kind, over a panel of its own. */
+class KeypadStage
+{
+public:
+    explicit KeypadStage(DeviceType type = 1, const QSize &size = QSize(640, 480),
+                         PanelView::Frame frame = PanelView::Framed);
+
+    AnyKeypad *operator->() const { return m_keypad.data(); }
+    PanelView *view() { return &m_view; }
+    QDialog *dialog() const { return m_keypad->dialog(); }
+    KeyBoardLineEdit *line() const { return editLine(dialog()); }
+
+    /* Gives the shown keypad the keyboard, as the windowing system does some time after show. */
+    void activate() { QApplication::setActiveWindow(dialog()); }
+
+    /* The on-screen keys that end an entry. */
+    void confirm() { tap(dialog(), u(currentKind().confirmLabel)); }
+    void cancel() { tap(dialog(), u(currentKind().cancelLabel)); }
+
+private:
+    PanelView m_view;
+    QScopedPointer<AnyKeypad> m_keypad;
+};
+
+#endif

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#ifndef KEYPADDRIVER_H
+#define KEYPADDRIVER_H
+
+#include <HMIDevice/HMIDeviceInfo.h>
+
+#include <QDialog>
+#include <QGraphicsView>
+#include <QLabel>
+#include <QStringList>
+#include <QToolButton>
+#include <QtTest>
+
+#include <functional>
+
+class KeyBoardLineEdit;
+
+// Works a keypad as an operator does, and sets the stage for it.
+
+/* In Qt 4.8 QSKIP() takes a mode as well. */
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+#define HMI_SKIP(reason) QSKIP(reason, SkipAll)
+#else
+#define HMI_SKIP(reason) QSKIP(reason)
+#endif
+
+/* A text of non-ASCII characters, the source files being UTF-8. */
+inline QString u(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+/*
+ * The application's main view, shown, of the panel's screen size and registered in the device
+ * profile. When it goes, its keypads go with it, no view is registered and the panel is of type 1.
+ */
+class PanelView : public QGraphicsView
+{
+public:
+    enum Frame { Framed, Frameless };
+
+    explicit PanelView(DeviceType type, const QSize &size = QSize(640, 480), Frame frame = Framed);
+    ~PanelView() override;
+
+    /* What a keypad that covers this view must cover, worked out from the rule. */
+    QRect coveredRect() const;
+};
+
+/* The keypad's key with this label, or null; \a u("←") is a label like any other. */
+QToolButton *key(const QWidget *keypad, const QString &label);
+
+/* The labels of a keypad's keys in the order of their creation. */
+QStringList keyLabels(const QWidget *keypad);
+
+/* The labels of the keys that are enabled, in the order of their creation. */
+QStringList enabledKeyLabels(const QWidget *keypad);
+
+/* The cells of a key in the grid: column, row, columns and rows; null for a label not there. */
+QRect gridCells(const QWidget *keypad, const QString &label);
+
+KeyBoardLineEdit *editLine(const QWidget *keypad);
+
+/* The line for limits above the edit line. */
+QLabel *tipLabel(const QWidget *keypad);
+
+/* Clicks a key with the left mouse button, as a tap does. Fails the test if there is none. */
+void tap(QWidget *keypad, const QString &label);
+
+/* Taps the keys of labels separated by blanks. */
+void tapAll(QWidget *keypad, const QString &labels);
+
+/* Presses and releases a hard key on what has the focus, as the windowing system does. */
+void pressHardKey(QWidget *keypad, int key);
+
+/*
+ * Runs \a keypad's exec() and, once it is shown, \a actions in its event loop. A keypad that is
+ * still open afterwards is noted in \a leftOpen (when not null) and rejected. Returns what exec()
+ * returned.
+ */
+int execWhile(QDialog *keypad, const std::function<void()> &actions, bool *leftOpen = nullptr);
+
+#endif

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#ifndef TEST_QTDIFFERENCES_H
+#define TEST_QTDIFFERENCES_H
+
+#include <QMetaMethod>
+#include <QObject>
+#include <QString>
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+#include <QTextCodec>
+#endif
+
+// Everything in which Qt 4.8, 5 and 6 differ for the tests, once and by purpose.
+
+/* The signal with which a QSignalMapper sends the string that a sender is mapped to. */
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#define HMI_MAPPED_SIGNAL SIGNAL(mapped(QString))
+#else
+#define HMI_MAPPED_SIGNAL SIGNAL(mappedString(QString))
+#endif
+
+namespace QtDifferences {
+
+/* A function that is called with each message, and how to make it the one that is called. */
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+typedef QtMsgHandler MessageHandler;
+#define HMI_MESSAGE_HANDLER(name, text) void name(QtMsgType, const char *text)
+inline MessageHandler installMessageHandler(MessageHandler handler)
+{
+    return qInstallMsgHandler(handler);
+}
+inline QString messageText(const char *text)
+{
+    return QString::fromLocal8Bit(text);
+}
+#else
+typedef QtMessageHandler MessageHandler;
+#define HMI_MESSAGE_HANDLER(name, text) \
+    void name(QtMsgType, const QMessageLogContext &, const QString &text)
+inline MessageHandler installMessageHandler(MessageHandler handler)
+{
+    return qInstallMessageHandler(handler);
+}
+inline QString messageText(const QString &text)
+{
+    return text;
+}
+#endif
+
+/* Makes the process read 8-bit literals as an application for Chinese panels does. */
+inline void readLiteralsAsGbk()
+{
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    QTextCodec::setCodecForCStrings(QTextCodec::codecForName("GBK"));
+#endif
+}
+
+/* The name of a method and the types of its parameters, as in "setText(QString)". */
+inline QByteArray methodSignature(const QMetaMethod &method)
+{
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    return method.signature();
+#else
+    return method.methodSignature();
+#endif
+}
+
+} // namespace QtDifferences
+
+#endif
