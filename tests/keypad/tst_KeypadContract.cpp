@@ -261,7 +261,7 @@ void tst_KeypadContract::adjustmentsReachTheEditLine()
 void tst_KeypadContract::limitsAreShownUntilTheyAreEmpty()
 {
     if (!currentKind().has(FixedFace))
-        return; // no such line
+        HMI_SKIP("this keypad has no line for limits");
     KeypadStage stage;
     const QLabel *label = tipLabel(stage.dialog());
     QVERIFY(label->isHidden());

@@ -192,7 +192,7 @@ static AnyKeypad *newKeypadWithoutView()
 void tst_KeypadPlacement::staysWhereItIsWithoutAView()
 {
     if (qstrcmp(currentKind().className, "vondKeypad") == 0)
-        return; // an application must register a view before it shows this one
+        HMI_SKIP("this keypad is shown with a view only");
     QScopedPointer<AnyKeypad> keypad(newKeypadWithoutView());
     QVERIFY(!keypad->dialog()->parentWidget());
     const QRect rect(37, 41, 410, 330);
@@ -208,7 +208,7 @@ void tst_KeypadPlacement::staysWhereItIsWithoutAView()
 void tst_KeypadPlacement::aNewKeypadIsNotMovedWithoutAView()
 {
     if (qstrcmp(currentKind().className, "vondKeypad") == 0)
-        return; // as above
+        HMI_SKIP("this keypad is shown with a view only");
     QDialog plain(nullptr, Qt::FramelessWindowHint);
     plain.resize(320, 240);
     const QRect before = plain.geometry();

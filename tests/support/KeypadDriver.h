@@ -19,7 +19,7 @@ class KeyBoardLineEdit;
 
 /* In Qt 4.8 QSKIP() takes a mode as well. */
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
-#define HMI_SKIP(reason) QSKIP(reason, SkipAll)
+#define HMI_SKIP(reason) QSKIP(reason, SkipSingle)
 #else
 #define HMI_SKIP(reason) QSKIP(reason)
 #endif
