@@ -8,14 +8,31 @@
 
 #include <QHBoxLayout>
 
-// On the narrowest panel a long pinyin needs more room than a candidate.
-static const int pinyinWidthInLines = 3;
+// What stays readable where the panel is short of room, in heights of a line.
+static const int pinyinMinimumWidth = 2;
+static const int candidateMinimumWidth = 1;
+
+// Candidates of any length leave the paging buttons their place.
+class PagingButton : public Keypad::KeyButton
+{
+public:
+    using KeyButton::KeyButton;
+
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+static QToolButton *createPagingButton(QWidget *parent, const QString &label)
+{
+    QToolButton *button = new PagingButton(parent);
+    Keypad::setUpKey(button, label);
+    return button;
+}
 
 // A candidate is shown as it will be inserted, whatever marks the dictionary has in it.
 template <class Label>
-static Label *createLabel(QWidget *parent, int widthInLines)
+static Label *createLabel(QWidget *parent, int minimumWidthInLines)
 {
-    Label *label = new Keypad::FittedLabel<Label>(QString(), parent, widthInLines);
+    Label *label = new Keypad::FittedLabel<Label>(QString(), parent, minimumWidthInLines);
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     Keypad::colourLabel(label);
@@ -27,16 +44,16 @@ ChnPanel::ChnPanel(QWidget *parent)
     , m_currentPage(0)
     , m_pageCount(0)
 {
-    m_previousButton = Keypad::createKey(this, QLatin1String("<"));
-    m_pinyinLabel = createLabel<QLabel>(this, pinyinWidthInLines);
+    m_previousButton = createPagingButton(this, QLatin1String("<"));
+    m_pinyinLabel = createLabel<QLabel>(this, pinyinMinimumWidth);
     QHBoxLayout *layout = new QHBoxLayout(this);
     layout->addWidget(m_previousButton);
     layout->addWidget(m_pinyinLabel);
     for (int i = 0; i < PageSize; ++i) {
-        m_candidateLabels[i] = createLabel<ClickLabel>(this, 1);
+        m_candidateLabels[i] = createLabel<ClickLabel>(this, candidateMinimumWidth);
         layout->addWidget(m_candidateLabels[i]);
     }
-    m_nextButton = Keypad::createKey(this, QLatin1String(">"));
+    m_nextButton = createPagingButton(this, QLatin1String(">"));
     layout->addWidget(m_nextButton);
     hide();
 }

@@ -271,7 +271,7 @@ QLayout *DateTimeKeypad::labelledFields()
     QGridLayout *grid = new QGridLayout;
     Keypad::setUpLayout(grid, keySpacing);
     for (int i = 0; i < FieldCount; ++i) {
-        QLabel *label = new QLabel(tr(fieldCells[i].label), this);
+        QLabel *label = new Keypad::FittedLabel<QLabel>(tr(fieldCells[i].label), this, 0);
         label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
         grid->addWidget(label, fieldCells[i].row, fieldCells[i].column);
         grid->addWidget(m_fields[i], fieldCells[i].row, fieldCells[i].column + 1);

@@ -68,6 +68,11 @@ void KeyButton::paintEvent(QPaintEvent *)
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
 }
 
+int textWidth(const QLabel *label)
+{
+    return sizeOf(label->font(), label->text(), 0).width();
+}
+
 bool paintFitted(QLabel *label)
 {
     const QRect room = label->contentsRect();

@@ -22,27 +22,36 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
+/* The width that the text of \a label needs, in pixels; bounded, as a dictionary may hold any text.
+ */
+int textWidth(const QLabel *label);
+
 /* Draws the text of \a label smaller and returns true if it would be clipped otherwise. */
 bool paintFitted(QLabel *label);
 
+/* A label one line high that asks for the width of its text, and makes do with less. */
 template <class Label>
 class FittedLabel : public Label
 {
 public:
-    /* Asks for a width of \a widthInLines heights of a line, whatever the text. */
-    FittedLabel(const QString &text, QWidget *parent, int widthInLines)
+    /* A layout that is short of room leaves the label \a minimumWidthInLines heights of a line. */
+    FittedLabel(const QString &text, QWidget *parent, int minimumWidthInLines)
         : Label(text, parent)
-        , m_widthInLines(widthInLines)
+        , m_minimumWidthInLines(minimumWidthInLines)
     {
     }
 
     QSize sizeHint() const override
     {
-        const int lineHeight = this->fontMetrics().height();
-        return QSize(m_widthInLines * lineHeight, lineHeight);
+        const QSize minimum = minimumSizeHint();
+        return QSize(qMax(minimum.width(), textWidth(this)), minimum.height());
     }
 
-    QSize minimumSizeHint() const override { return QSize(0, this->fontMetrics().height()); }
+    QSize minimumSizeHint() const override
+    {
+        const int lineHeight = this->fontMetrics().height();
+        return QSize(m_minimumWidthInLines * lineHeight, lineHeight);
+    }
 
 protected:
     void paintEvent(QPaintEvent *event) override
@@ -52,7 +61,7 @@ protected:
     }
 
 private:
-    int m_widthInLines;
+    int m_minimumWidthInLines;
 };
 
 } // namespace Keypad

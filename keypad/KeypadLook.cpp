@@ -98,10 +98,15 @@ void setUpLayout(QLayout *layout, int spacing)
 QToolButton *createKey(QWidget *parent, const QString &label)
 {
     QToolButton *key = new KeyButton(parent);
+    setUpKey(key, label);
+    return key;
+}
+
+void setUpKey(QToolButton *key, const QString &label)
+{
     key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     key->setText(label);
     colourKey(key);
-    return key;
 }
 
 KeyBoardLineEdit *createEditLine(QDialog *keypad)
@@ -118,7 +123,7 @@ QGridLayout *setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit
     QVBoxLayout *layout = new QVBoxLayout(keypad);
     setUpLayout(layout, 0);
     colourDialog(keypad);
-    *tipLabel = new FittedLabel<QLabel>(QString(), keypad, 1);
+    *tipLabel = new FittedLabel<QLabel>(QString(), keypad, 0);
     colourLabel(*tipLabel);
     layout->addWidget(*tipLabel);
     *editLine = createEditLine(keypad);

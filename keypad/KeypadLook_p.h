@@ -36,6 +36,9 @@ void setUpLayout(QLayout *layout, int spacing);
 /* A key of a keypad, owned by \a parent, that takes an equal share of its layout. */
 QToolButton *createKey(QWidget *parent, const QString &label);
 
+/* Makes a key of a button that exists. */
+void setUpKey(QToolButton *key, const QString &label);
+
 KeyBoardLineEdit *createEditLine(QDialog *keypad);
 
 /*
