@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#ifndef MACHINESCREEN_H
+#define MACHINESCREEN_H
+
+#include <QWidget>
+
+class QAbstractButton;
+class QBoxLayout;
+class QButtonGroup;
+class QLabel;
+class QStackedWidget;
+class TouchField;
+
+/*!
+ * The screen of a machine tool: pages of fields, chosen by the soft keys at the bottom, beneath a
+ * line with the page's title, messages and the operating mode.
+ *
+ * It is laid out for HMIDeviceInfo::screenSize() as that is when the screen is built.
+ */
+class MachineScreen : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MachineScreen(QWidget *parent);
+
+    /*! The field of this name, or null. */
+    TouchField *field(const QString &name) const;
+
+    /*! The soft key of the page with this Latin name, or null. */
+    QAbstractButton *softKey(const QString &page) const;
+
+    QString message() const;
+
+public Q_SLOTS:
+    void showMessage(const QString &text);
+
+Q_SIGNALS:
+    void fieldTapped(TouchField *field);
+
+private:
+    QWidget *createTopBar();
+    QWidget *createSoftKeys();
+    QWidget *createPositionPage();
+    QWidget *createProgramPage();
+    QWidget *createOffsetPage();
+    QWidget *createParameterPage();
+    QWidget *createSystemPage();
+
+    QWidget *createCard();
+    QWidget *createAxis(const QString &name);
+    QWidget *createGauge(const QString &name);
+    QWidget *createRow(const QString &name, QWidget *belowLabel = nullptr);
+    TouchField *createField(const QString &rule, int pixels, QWidget *parent);
+    QLabel *createLabel(const QString &text, QWidget *parent);
+    QWidget *createPage(QBoxLayout *layout);
+    void showPage(int index);
+
+    bool m_upright;
+    int m_unit; // pixels; the height of a line with its space
+    QStackedWidget *m_pages;
+    QButtonGroup *m_softKeys;
+    QLabel *m_title;
+    QLabel *m_message;
+};
+
+#endif

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#ifndef OPERATOR_H
+#define OPERATOR_H
+
+#include <QString>
+
+class QGraphicsView;
+class QPixmap;
+class QWidget;
+
+/*! Works the panel as an operator does: through the mouse and key events of its windows. */
+namespace Operator {
+
+/*! The keypad that is open, or null. */
+QWidget *openKeypad();
+
+/*! Whether a window can be worked: it is on the screen, and active; if it is not, it is asked to
+ * be. */
+bool isReady(QWidget *window);
+
+/*! Taps the middle of \a widget. */
+void tap(QWidget *widget);
+
+/*! Taps \a widget at its right edge, which puts the cursor behind a text. */
+void tapEnd(QWidget *widget);
+
+/*! The key or candidate of \a keypad that can be seen and has this label, or null. */
+QWidget *findKey(const QWidget *keypad, const QString &label);
+
+/*!
+ * Presses a hard key on the window that has \a widget. \a name is a character, or one of "Return",
+ * "Escape", "Backspace" and "F1". Returns whether there is such a key.
+ */
+bool pressHardKey(QWidget *widget, const QString &name);
+
+/*! What the operator sees: the view, and over it the keypad that is open. */
+QPixmap picture(QGraphicsView *view);
+
+} // namespace Operator
+
+#endif

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#ifndef OPTIONS_H
+#define OPTIONS_H
+
+#include <QSize>
+#include <QString>
+
+/*! What the command line asks for. */
+struct Options
+{
+    int type = 8;
+    QSize size;            // of the free-size model, in pixels
+    int rotation = 0;      // degrees
+    QString translation;   // path of a compiled translation of the library; may be empty
+    QString pictureFolder; // of the scripted session; empty when an operator is to work the demo
+};
+
+/*!
+ * Reads the application's arguments. Ends the program after --help, and with exit status 2 and one
+ * line on stderr when an argument is wrong.
+ */
+Options readOptions();
+
+#endif

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "TouchField.h"
+
+#include "FieldTable.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+TouchField::TouchField(const FieldRule &rule, QWidget *parent)
+    : QLineEdit(rule.value, parent)
+    , m_rule(rule)
+{
+    setObjectName(rule.name);
+    setReadOnly(true);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setFocusPolicy(Qt::StrongFocus);
+    setEchoMode(rule.masked ? QLineEdit::Password : QLineEdit::Normal);
+    setAlignment(rule.unit ? Qt::AlignRight : Qt::AlignLeft);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMinimumWidth(1);
+    connect(this, &QLineEdit::textChanged, this, &TouchField::showBeginning);
+    showBeginning();
+}
+
+// A finger selects nothing, so the mouse events of QLineEdit are kept from it.
+
+void TouchField::mousePressEvent(QMouseEvent *)
+{
+}
+
+void TouchField::mouseMoveEvent(QMouseEvent *)
+{
+}
+
+void TouchField::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (rect().contains(event->pos()))
+        Q_EMIT tapped();
+}
+
+void TouchField::mouseDoubleClickEvent(QMouseEvent *)
+{
+}
+
+void TouchField::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Q_EMIT tapped();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void TouchField::showBeginning()
+{
+    setCursorPosition(0);
+}
