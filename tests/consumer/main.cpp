@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include <HMIDevice/HMIDeviceInfo.h>
+#include <HMIDevice/NumericKeypad.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+// Exit status 0 when the keypad wrote its text into the field.
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    HMIDeviceInfo::setDeviceInfo(9, QSize());
+    QLineEdit field;
+    NumericKeypad::instance()->setObject(&field);
+    NumericKeypad::instance()->setText(QString::number(HMIDeviceInfo::screenSize().width()));
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Enter, Qt::NoModifier);
+    QApplication::sendEvent(NumericKeypad::instance(), &enter);
+    return field.text() == QLatin1String("480") ? 0 : 1;
+}
