@@ -133,6 +133,7 @@ public:
     {
         if (hasTable() && hasColumns()) {
             checkWholeness();
+            checkJournal();
             checkRows();
             checkGroups();
             checkSyllables();
@@ -145,6 +146,7 @@ private:
     bool hasTable();
     bool hasColumns();
     void checkWholeness();
+    void checkJournal();
     void checkRows();
     void checkGroups();
     void checkSyllables();
@@ -195,6 +197,14 @@ void DictionaryCheck::checkWholeness()
         if (problem != QLatin1String("ok")) {
             m_report.findings << QStringLiteral("the file is damaged: ") + problem.simplified();
         }
+    }
+}
+
+void DictionaryCheck::checkJournal()
+{
+    QSqlQuery mode = m_database.run(QStringLiteral("PRAGMA journal_mode"));
+    if (mode.next() && mode.value(0).toString() == QLatin1String("wal")) {
+        m_report.findings << QStringLiteral("journal mode WAL: even readers leave files beside it");
     }
 }
 

@@ -40,13 +40,9 @@ private Q_SLOTS:
     void aDisabledKeyTypesNothing();
     void editingKeysMoveAndErase_data();
     void editingKeysMoveAndErase();
-    void signKeyTogglesTheLeadingMinus_data();
-    void signKeyTogglesTheLeadingMinus();
-    void aToggledValueIsStillReplacedByTheNextDigit();
     void validatorRefusesWhatItDoesNotAccept();
     void onlyTheValidatorStopsASecondPoint();
     void maximumLengthEndsTheEntry();
-    void signKeyObeysTheMaximumLength();
     void typedValueReachesTheTarget();
     void enterAndEscEndTheEntry();
     void hardKeysTypeIntoTheSameLine();
@@ -243,67 +239,6 @@ void tst_NumericKeypad::editingKeysMoveAndErase()
     QVERIFY(!open.line()->hasSelectedText());
 }
 
-void tst_NumericKeypad::signKeyTogglesTheLeadingMinus_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("cursor"); // -1: everything selected
-    QTest::addColumn<QString>("newText");
-    QTest::addColumn<int>("newCursor");
-
-    QTest::newRow("plain, cursor at the end") << u("12") << 2 << u("-12") << 3;
-    QTest::newRow("negative, cursor at the end") << u("-12") << 3 << u("12") << 2;
-    QTest::newRow("plain, cursor at the start") << u("12") << 0 << u("-12") << 1;
-    QTest::newRow("plain, cursor inside") << u("12.5") << 2 << u("-12.5") << 3;
-    QTest::newRow("negative, cursor inside") << u("-12.5") << 3 << u("12.5") << 2;
-    QTest::newRow("negative, cursor behind the sign") << u("-12") << 1 << u("12") << 0;
-    QTest::newRow("negative, cursor before the sign") << u("-12") << 0 << u("12") << 0;
-    QTest::newRow("minus signs everywhere") << u("-1-2") << 4 << u("12") << 2;
-    QTest::newRow("minus signs everywhere, cursor inside") << u("-1-2") << 2 << u("12") << 1;
-    QTest::newRow("only minus signs") << u("---") << 3 << u("") << 0;
-    QTest::newRow("a minus sign further on") << u("1-2") << 3 << u("-1-2") << 4;
-    QTest::newRow("empty") << u("") << 0 << u("-") << 1;
-    QTest::newRow("lone minus sign") << u("-") << 1 << u("") << 0;
-    QTest::newRow("other dash") << u("–1") << 2 << u("-–1") << 3;
-    QTest::newRow("plain, selected") << u("3.5") << -1 << u("-3.5") << -1;
-    QTest::newRow("negative, selected") << u("-3.5") << -1 << u("3.5") << -1;
-    QTest::newRow("minus signs everywhere, selected") << u("-1-2") << -1 << u("12") << -1;
-}
-
-void tst_NumericKeypad::signKeyTogglesTheLeadingMinus()
-{
-    QFETCH(QString, text);
-    QFETCH(int, cursor);
-    QFETCH(QString, newText);
-    QFETCH(int, newCursor);
-    OpenKeypad<NumericKeypad> open(text);
-    if (cursor >= 0)
-        open.line()->setCursorPosition(cursor);
-
-    tap(&open.keypad, u("+/-"));
-
-    QCOMPARE(open.line()->text(), newText);
-    if (newCursor >= 0) {
-        QCOMPARE(open.line()->cursorPosition(), newCursor);
-        QVERIFY(!open.line()->hasSelectedText());
-    } else {
-        QCOMPARE(open.line()->selectedText(), newText);
-    }
-}
-
-void tst_NumericKeypad::aToggledValueIsStillReplacedByTheNextDigit()
-{
-    OpenKeypad<NumericKeypad> open(u("3.5"));
-    tap(&open.keypad, u("+/-"));
-    QCOMPARE(open.line()->selectedText(), u("-3.5"));
-    tap(&open.keypad, u("7"));
-    QCOMPARE(open.line()->text(), u("7"));
-
-    open.keypad.setText(u("123"));
-    open.line()->setSelection(1, 1); // part of it counts as well
-    tap(&open.keypad, u("+/-"));
-    QCOMPARE(open.line()->selectedText(), u("-123"));
-}
-
 void tst_NumericKeypad::validatorRefusesWhatItDoesNotAccept()
 {
     OpenKeypad<NumericKeypad> open;
@@ -345,17 +280,6 @@ void tst_NumericKeypad::maximumLengthEndsTheEntry()
     QCOMPARE(open.line()->text(), u("123"));
     tapAll(&open.keypad, u("BSP 9 8"));
     QCOMPARE(open.line()->text(), u("129"));
-}
-
-void tst_NumericKeypad::signKeyObeysTheMaximumLength()
-{
-    OpenKeypad<NumericKeypad> open;
-    open.keypad.setMaxLength(3);
-    open.keypad.setText(u("123"));
-    open.line()->setCursorPosition(3);
-    tap(&open.keypad, u("+/-")); // the text is set whole, and cut at its end
-    QCOMPARE(open.line()->text(), u("-12"));
-    QCOMPARE(open.line()->cursorPosition(), 3);
 }
 
 void tst_NumericKeypad::typedValueReachesTheTarget()

@@ -29,11 +29,6 @@ private Q_SLOTS:
     void theSpaceKeyTypesOneSpace();
     void editingKeysMoveAndErase_data();
     void editingKeysMoveAndErase();
-    void signKeyTogglesTheLeadingMinus_data();
-    void signKeyTogglesTheLeadingMinus();
-    void signKeyTwiceGivesTheSameTextAndCursor();
-    void signKeyPassesByTheValidator();
-    void signKeyObeysTheMaximumLength();
     void validatorAndMaximumLengthRefuseKeys();
     void typedAxisWordReachesTheTarget();
     void escEndsTheEntry();
@@ -172,80 +167,6 @@ void tst_vondKeypad::editingKeysMoveAndErase()
     QTEST(open.line()->text(), "text");
     QTEST(open.line()->cursorPosition(), "cursor");
     QVERIFY(!open.line()->hasSelectedText());
-}
-
-void tst_vondKeypad::signKeyTogglesTheLeadingMinus_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("cursor"); // -1: everything selected
-    QTest::addColumn<QString>("newText");
-    QTest::addColumn<int>("newCursor");
-
-    QTest::newRow("plain, cursor at the end") << u("12.5") << 4 << u("-12.5") << 5;
-    QTest::newRow("negative, cursor at the end") << u("-12.5") << 5 << u("12.5") << 4;
-    QTest::newRow("minus signs everywhere, cursor inside") << u("-X-5") << 2 << u("X5") << 1;
-    QTest::newRow("minus signs everywhere, cursor at the end") << u("-X-5") << 4 << u("X5") << 2;
-    QTest::newRow("a minus sign further on") << u("X-5") << 3 << u("-X-5") << 4;
-    QTest::newRow("empty") << u("") << 0 << u("-") << 1;
-    QTest::newRow("lone minus sign") << u("-") << 1 << u("") << 0;
-    QTest::newRow("negative, cursor before the sign") << u("-X5") << 0 << u("X5") << 0;
-    QTest::newRow("a space in front") << u(" -5") << 3 << u("- -5") << 4;
-    QTest::newRow("plain, selected") << u("X5") << -1 << u("-X5") << -1;
-    QTest::newRow("minus signs everywhere, selected") << u("-X-5") << -1 << u("X5") << -1;
-}
-
-void tst_vondKeypad::signKeyTogglesTheLeadingMinus()
-{
-    QFETCH(QString, text);
-    QFETCH(int, cursor);
-    QFETCH(QString, newText);
-    QFETCH(int, newCursor);
-    OpenKeypad<vondKeypad> open(text);
-    if (cursor >= 0)
-        open.line()->setCursorPosition(cursor);
-
-    tap(&open.keypad, u("-"));
-
-    QCOMPARE(open.line()->text(), newText);
-    if (newCursor >= 0) {
-        QCOMPARE(open.line()->cursorPosition(), newCursor);
-        QVERIFY(!open.line()->hasSelectedText());
-    } else {
-        QCOMPARE(open.line()->selectedText(), newText);
-    }
-}
-
-void tst_vondKeypad::signKeyTwiceGivesTheSameTextAndCursor()
-{
-    OpenKeypad<vondKeypad> open(u("12.5"));
-    for (int cursor = 0; cursor <= 4; ++cursor) {
-        open.line()->setCursorPosition(cursor);
-        tapAll(&open.keypad, u("- -"));
-        QCOMPARE(open.line()->text(), u("12.5"));
-        QCOMPARE(open.line()->cursorPosition(), cursor);
-    }
-}
-
-void tst_vondKeypad::signKeyPassesByTheValidator()
-{
-    OpenKeypad<vondKeypad> open(u("5"));
-    QIntValidator validator(0, 99, nullptr);
-    open.keypad.setValidator(&validator);
-    open.keypad.setText(u("5"));
-    tap(&open.keypad, u("-"));
-    QCOMPARE(open.line()->text(), u("-5"));
-    QVERIFY(!open.line()->hasAcceptableInput());
-}
-
-void tst_vondKeypad::signKeyObeysTheMaximumLength()
-{
-    OpenKeypad<vondKeypad> open;
-    open.keypad.setMaxLength(3);
-    open.keypad.setText(u("X12"));
-    open.line()->setCursorPosition(3);
-    tap(&open.keypad, u("-"));
-    QCOMPARE(open.line()->text(), u("-X1"));
-    QCOMPARE(open.line()->cursorPosition(), 3);
 }
 
 void tst_vondKeypad::validatorAndMaximumLengthRefuseKeys()

@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "support/OpenKeypad.h"
+
+#include <HMIDevice/NumericKeypad.h>
+#include <HMIDevice/vondKeypad.h>
+
+#include <QIntValidator>
+#include <QScopedPointer>
+
+// The sign key of the numeric and of the axis keypad: every test runs for both.
+class tst_SignKey : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void theLeadingMinusComesAndGoes_data();
+    void theLeadingMinusComesAndGoes();
+    void twiceGivesTheSameTextAndCursor();
+    void aToggledValueIsStillReplacedByTheNextDigit();
+    void aPartSelectedBecomesAllSelected();
+    void theValidatorIsPassedBy();
+    void theMaximumLengthCutsTheEnd();
+};
+
+namespace {
+
+/* A keypad that is open on a text, whichever of the two it is. */
+class Stage
+{
+public:
+    explicit Stage(const QString &text)
+    {
+        QFETCH_GLOBAL(QString, keypad);
+        QFETCH_GLOBAL(QString, signLabel);
+        m_signLabel = signLabel;
+        if (keypad == u("NumericKeypad"))
+            m_numeric.reset(new OpenKeypad<NumericKeypad>(text));
+        else
+            m_axis.reset(new OpenKeypad<vondKeypad>(text));
+    }
+
+    void tapSign() { tap(keypad(), m_signLabel); }
+    void tapKey(const char *label) { tap(keypad(), u(label)); }
+    QLineEdit *line() { return editLine(keypad()); }
+
+private:
+    QDialog *keypad()
+    {
+        return m_numeric ? static_cast<QDialog *>(&m_numeric->keypad) : &m_axis->keypad;
+    }
+
+    QString m_signLabel;
+    QScopedPointer<OpenKeypad<NumericKeypad>> m_numeric;
+    QScopedPointer<OpenKeypad<vondKeypad>> m_axis;
+};
+
+} // namespace
+
+void tst_SignKey::initTestCase_data()
+{
+    QTest::addColumn<QString>("keypad");
+    QTest::addColumn<QString>("signLabel");
+    QTest::newRow("numeric") << u("NumericKeypad") << u("+/-");
+    QTest::newRow("axis") << u("vondKeypad") << u("-");
+}
+
+void tst_SignKey::theLeadingMinusComesAndGoes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("cursor"); // -1: everything selected
+    QTest::addColumn<QString>("newText");
+    QTest::addColumn<int>("newCursor");
+
+    QTest::newRow("plain, cursor at the end") << u("12") << 2 << u("-12") << 3;
+    QTest::newRow("negative, cursor at the end") << u("-12") << 3 << u("12") << 2;
+    QTest::newRow("a fraction, cursor at the end") << u("12.5") << 4 << u("-12.5") << 5;
+    QTest::newRow("negative fraction, cursor at the end") << u("-12.5") << 5 << u("12.5") << 4;
+    QTest::newRow("plain, cursor at the start") << u("12") << 0 << u("-12") << 1;
+    QTest::newRow("plain, cursor inside") << u("12.5") << 2 << u("-12.5") << 3;
+    QTest::newRow("negative, cursor inside") << u("-12.5") << 3 << u("12.5") << 2;
+    QTest::newRow("negative, cursor behind the sign") << u("-12") << 1 << u("12") << 0;
+    QTest::newRow("negative, cursor before the sign") << u("-12") << 0 << u("12") << 0;
+    QTest::newRow("minus signs everywhere") << u("-1-2") << 4 << u("12") << 2;
+    QTest::newRow("minus signs everywhere, cursor inside") << u("-X-5") << 2 << u("X5") << 1;
+    QTest::newRow("only minus signs") << u("---") << 3 << u("") << 0;
+    QTest::newRow("a minus sign further on") << u("X-5") << 3 << u("-X-5") << 4;
+    QTest::newRow("a space in front") << u(" -5") << 3 << u("- -5") << 4;
+    QTest::newRow("other dash") << u("–1") << 2 << u("-–1") << 3;
+    QTest::newRow("empty") << u("") << 0 << u("-") << 1;
+    QTest::newRow("lone minus sign") << u("-") << 1 << u("") << 0;
+    QTest::newRow("plain, selected") << u("3.5") << -1 << u("-3.5") << -1;
+    QTest::newRow("negative, selected") << u("-3.5") << -1 << u("3.5") << -1;
+    QTest::newRow("minus signs everywhere, selected") << u("-X-5") << -1 << u("X5") << -1;
+}
+
+void tst_SignKey::theLeadingMinusComesAndGoes()
+{
+    QFETCH(QString, text);
+    QFETCH(int, cursor);
+    QFETCH(QString, newText);
+    QFETCH(int, newCursor);
+    Stage stage(text);
+    if (cursor >= 0)
+        stage.line()->setCursorPosition(cursor);
+
+    stage.tapSign();
+
+    QCOMPARE(stage.line()->text(), newText);
+    if (newCursor >= 0) {
+        QCOMPARE(stage.line()->cursorPosition(), newCursor);
+        QVERIFY(!stage.line()->hasSelectedText());
+    } else {
+        QCOMPARE(stage.line()->selectedText(), newText);
+    }
+}
+
+void tst_SignKey::twiceGivesTheSameTextAndCursor()
+{
+    Stage stage(u("12.5"));
+    for (int cursor = 0; cursor <= 4; ++cursor) {
+        stage.line()->setCursorPosition(cursor);
+        stage.tapSign();
+        stage.tapSign();
+        QCOMPARE(stage.line()->text(), u("12.5"));
+        QCOMPARE(stage.line()->cursorPosition(), cursor);
+    }
+}
+
+void tst_SignKey::aToggledValueIsStillReplacedByTheNextDigit()
+{
+    Stage stage(u("3.5"));
+    stage.tapSign();
+    QCOMPARE(stage.line()->selectedText(), u("-3.5"));
+    stage.tapKey("7");
+    QCOMPARE(stage.line()->text(), u("7"));
+}
+
+void tst_SignKey::aPartSelectedBecomesAllSelected()
+{
+    Stage stage(u("123"));
+    stage.line()->setSelection(1, 1);
+    stage.tapSign();
+    QCOMPARE(stage.line()->selectedText(), u("-123"));
+}
+
+void tst_SignKey::theValidatorIsPassedBy()
+{
+    Stage stage(u("5"));
+    QIntValidator validator(0, 99, nullptr);
+    stage.line()->setValidator(&validator);
+    stage.tapSign();
+    QCOMPARE(stage.line()->text(), u("-5"));
+    QVERIFY(!stage.line()->hasAcceptableInput());
+}
+
+void tst_SignKey::theMaximumLengthCutsTheEnd()
+{
+    Stage stage(u("X12"));
+    stage.line()->setMaxLength(3);
+    stage.line()->setCursorPosition(3);
+    stage.tapSign();
+    QCOMPARE(stage.line()->text(), u("-X1"));
+    QCOMPARE(stage.line()->cursorPosition(), 3);
+}
+
+QTEST_MAIN(tst_SignKey)
+#include "tst_SignKey.moc"
