@@ -50,8 +50,9 @@ QSqlTableModel *open(QObject *parent)
 void close(QSqlTableModel *model)
 {
     delete model;
-    QString name;
+    QString name; // stays empty where somebody has removed the connection
     {
+        // Ends what an application may have begun on the connection.
         QSqlDatabase database = QSqlDatabase::database(QLatin1String(connectionName), false);
         name = database.connectionName();
         database.rollback();

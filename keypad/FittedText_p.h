@@ -22,8 +22,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 };
 
-/* The width that the text of \a label needs, in pixels; bounded, as a dictionary may hold any text.
- */
+/* The pixels that the text of \a label needs in width; bounded, as it may be of any length. */
 int textWidth(const QLabel *label);
 
 /* Draws the text of \a label smaller and returns true if it would be clipped otherwise. */

@@ -6,11 +6,10 @@
 #include "KeyGrid_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
+#include "QtDifferences_p.h"
 
 #include <QGraphicsView>
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QToolButton>
 
 #define SPACE_LABEL HMI_CODEC_LITERAL("\xA9\xB8\xA9\xA4\xA9\xA4\xA9\xBC", "└──┘")
@@ -22,19 +21,6 @@ static const char charLabels[] = "IJKLMFG789"
                                  ",$NSWCZ0.-";
 
 static const int charKeySpan = 2; // columns
-
-// clang-format off
-static const Keypad::KeyCell editingCells[] = {
-    { "ESC",       4,  0, 3, Keypad::Cancel      },
-    { "BSP",       4, 12, 4, Keypad::Backspace   },
-    { "←",         4,  3, 2, Keypad::MoveLeft    },
-    { "→",         4,  5, 2, Keypad::MoveRight   },
-    { "Enter",     4, 16, 4, Keypad::Confirm     },
-    { SPACE_LABEL, 4,  7, 5, Keypad::InsertSpace }
-};
-// clang-format on
-
-static const int editingKeyCount = int(sizeof(editingCells) / sizeof(editingCells[0]));
 
 /*
  * Where a keypad over \a target lies, in global coordinates. The rectangle that counts from the
@@ -48,6 +34,23 @@ static QRect coveredRect(const QWidget *target)
     const QWidget *viewport = HMIDeviceInfo::graphicsView()->viewport();
     return QRect(viewport->mapToGlobal(rect.topLeft()), viewport->mapToGlobal(rect.bottomRight()));
 }
+
+struct GCodeKeypad::EditingKey
+{
+    QToolButton *GCodeKeypad::*key;
+    Keypad::KeyCell cell;
+};
+
+// clang-format off
+const GCodeKeypad::EditingKey GCodeKeypad::editingKeys[] = {
+    { &GCodeKeypad::m_escKey,   { "ESC",       4,  0, 3, Keypad::Cancel      } },
+    { &GCodeKeypad::m_bspKey,   { "BSP",       4, 12, 4, Keypad::Backspace   } },
+    { &GCodeKeypad::m_leftKey,  { "←",         4,  3, 2, Keypad::MoveLeft    } },
+    { &GCodeKeypad::m_rightKey, { "→",         4,  5, 2, Keypad::MoveRight   } },
+    { &GCodeKeypad::m_enterKey, { "Enter",     4, 16, 4, Keypad::Confirm     } },
+    { &GCodeKeypad::m_spaceKey, { SPACE_LABEL, 4,  7, 5, Keypad::InsertSpace } }
+};
+// clang-format on
 
 GCodeKeypad *GCodeKeypad::m_instance = nullptr;
 
@@ -129,33 +132,32 @@ void GCodeKeypad::showEvent(QShowEvent *event)
 
 void GCodeKeypad::slot_toolButton_clicked()
 {
-    QToolButton *const editingKeys[] = { m_escKey,   m_bspKey,   m_leftKey,
-                                         m_rightKey, m_enterKey, m_spaceKey };
-    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
-        Keypad::act(Keypad::actionOf(key, editingCells, editingKeys, editingKeyCount), key->text(),
-                    this, m_object, m_lineEdit);
+    const QToolButton *key = qobject_cast<QToolButton *>(sender());
+    if (!key)
+        return;
+    Keypad::KeyAction action = Keypad::InsertLabel;
+    for (const EditingKey &editing : editingKeys) {
+        if (this->*editing.key == key)
+            action = editing.cell.action;
+    }
+    Keypad::act(action, key->text(), this, m_object, m_lineEdit);
 }
 
 void GCodeKeypad::setUpCharKeys(QGridLayout *grid)
 {
     for (int row = 0; row < CharRows; ++row) {
         for (int i = 0; i < CharColumns; ++i) {
-            const QString label = QString::fromLatin1(charLabels + CharColumns * row + i, 1);
-            m_charKeys[row][i] = Keypad::addKey(this, grid, label, row, charKeySpan * i,
-                                                charKeySpan, SLOT(slot_toolButton_clicked()));
+            const char label[] = { charLabels[CharColumns * row + i], '\0' };
+            const Keypad::KeyCell cell = { label, row, charKeySpan * i, charKeySpan,
+                                           Keypad::InsertLabel };
+            m_charKeys[row][i] = Keypad::addKey(this, grid, cell, SLOT(slot_toolButton_clicked()));
         }
     }
 }
 
 void GCodeKeypad::setUpEditingKeys(QGridLayout *grid)
 {
-    QToolButton *keys[editingKeyCount];
-    Keypad::addKeys(this, grid, editingCells, editingKeyCount, keys,
-                    SLOT(slot_toolButton_clicked()));
-    m_escKey = keys[0];
-    m_bspKey = keys[1];
-    m_leftKey = keys[2];
-    m_rightKey = keys[3];
-    m_enterKey = keys[4];
-    m_spaceKey = keys[5];
+    for (const EditingKey &editing : editingKeys)
+        this->*editing.key =
+            Keypad::addKey(this, grid, editing.cell, SLOT(slot_toolButton_clicked()));
 }

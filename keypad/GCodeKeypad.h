@@ -48,8 +48,8 @@ public:
     static GCodeKeypad *instance();
 
     /*!
-     * Builds a keypad with \a flags and Qt::FramelessWindowHint; \a parent may be
-     * null. Applications use instance().
+     * Builds a keypad with \a flags and Qt::FramelessWindowHint; \a parent may be null.
+     * Applications use instance().
      */
     GCodeKeypad(QWidget *parent, Qt::WindowFlags flags);
     ~GCodeKeypad() override;
@@ -63,8 +63,7 @@ public:
      */
     void setObject(QObject *object);
 
-    /*! Ignored: there are no modes. The call lets one piece of code drive keypads that have some.
-     */
+    /*! Ignored: there are no modes. The call lets one piece of code drive keypads with modes. */
     void setEditMode(int mode);
 
     /*! Ignored: the "." key is always enabled. */
@@ -109,11 +108,13 @@ private Q_SLOTS:
 
 private:
     enum { CharRows = 4, CharColumns = 10 };
+    struct EditingKey;
 
     void setUpCharKeys(QGridLayout *grid);
     void setUpEditingKeys(QGridLayout *grid);
 
     static GCodeKeypad *m_instance;
+    static const EditingKey editingKeys[];
 
     QPointer<QObject> m_object;
     QLabel *m_tipLabel;

@@ -2,6 +2,7 @@
 #include "KeyGrid_p.h"
 
 #include "KeypadLook_p.h"
+#include "QtDifferences_p.h"
 
 #include <QDialog>
 #include <QGridLayout>
@@ -9,6 +10,7 @@
 
 namespace Keypad {
 
+// Only the arrows can be translated, for fonts that lack them.
 static QString labelText(const KeyCell &cell)
 {
     if (cell.action == MoveLeft || cell.action == MoveRight)
@@ -16,11 +18,11 @@ static QString labelText(const KeyCell &cell)
     return QtDifferences::fromCodecLiteral(cell.label);
 }
 
-QToolButton *addKey(QDialog *keypad, QGridLayout *grid, const QString &label, int row, int column,
-                    int columnSpan, const char *clickedSlot)
+QToolButton *addKey(QDialog *keypad, QGridLayout *grid, const KeyCell &cell,
+                    const char *clickedSlot)
 {
-    QToolButton *key = createKey(keypad, label);
-    grid->addWidget(key, row, column, 1, columnSpan);
+    QToolButton *key = createKey(keypad, labelText(cell));
+    grid->addWidget(key, cell.row, cell.column, 1, cell.columnSpan);
     QObject::connect(key, SIGNAL(clicked()), keypad, clickedSlot);
     return key;
 }
@@ -28,11 +30,8 @@ QToolButton *addKey(QDialog *keypad, QGridLayout *grid, const QString &label, in
 void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, int count,
              QToolButton **keys, const char *clickedSlot)
 {
-    for (int i = 0; i < count; ++i) {
-        const KeyCell &cell = cells[i];
-        keys[i] = addKey(keypad, grid, labelText(cell), cell.row, cell.column, cell.columnSpan,
-                         clickedSlot);
-    }
+    for (int i = 0; i < count; ++i)
+        keys[i] = addKey(keypad, grid, cells[i], clickedSlot);
 }
 
 int indexOfKey(const QObject *key, QToolButton *const *keys, int count)
@@ -42,12 +41,6 @@ int indexOfKey(const QObject *key, QToolButton *const *keys, int count)
             return i;
     }
     return -1;
-}
-
-KeyAction actionOf(const QObject *key, const KeyCell *cells, QToolButton *const *keys, int count)
-{
-    const int i = indexOfKey(key, keys, count);
-    return i < 0 ? InsertLabel : cells[i].action;
 }
 
 } // namespace Keypad

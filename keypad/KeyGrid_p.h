@@ -2,10 +2,9 @@
 #ifndef KEYGRID_P_H
 #define KEYGRID_P_H
 
-#include "QtDifferences_p.h"
-
 class QDialog;
 class QGridLayout;
+class QObject;
 class QToolButton;
 
 // A keypad's face as a table: one row a key, in the order in which the keys are created.
@@ -31,21 +30,19 @@ struct KeyCell
     KeyAction action;
 };
 
-/* Makes one key, owned by \a keypad, one row high; its clicks go to \a clickedSlot of \a keypad. */
-QToolButton *addKey(QDialog *keypad, QGridLayout *grid, const QString &label, int row, int column,
-                    int columnSpan, const char *clickedSlot);
-
 /*
- * Makes the \a count keys of \a cells and stores them in \a keys.
+ * Makes the key of \a cell, owned by \a keypad, in \a grid; its clicks go to \a clickedSlot of the
+ * keypad.
  */
+QToolButton *addKey(QDialog *keypad, QGridLayout *grid, const KeyCell &cell,
+                    const char *clickedSlot);
+
+/* Makes the \a count keys of \a cells and stores them in \a keys. */
 void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, int count,
              QToolButton **keys, const char *clickedSlot);
 
 /* The position of \a key in \a keys, or -1. */
 int indexOfKey(const QObject *key, QToolButton *const *keys, int count);
-
-/* The action of \a key by its row in \a cells; a key that is not in \a keys inserts its label. */
-KeyAction actionOf(const QObject *key, const KeyCell *cells, QToolButton *const *keys, int count);
 
 } // namespace Keypad
 

@@ -8,9 +8,7 @@
 #include "KeypadRules_p.h"
 
 #include <QGraphicsView>
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QStringList>
 #include <QToolButton>
 
@@ -141,9 +139,9 @@ void NumericKeypad::showEvent(QShowEvent *event)
 
 void NumericKeypad::slot_toolButton_clicked()
 {
-    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
-        Keypad::act(Keypad::actionOf(key, keyCells, m_keys, KeyCount), key->text(), this, m_object,
-                    m_lineEdit);
+    const int i = Keypad::indexOfKey(sender(), m_keys, KeyCount);
+    if (i >= 0)
+        Keypad::act(keyCells[i].action, m_keys[i]->text(), this, m_object, m_lineEdit);
 }
 
 void NumericKeypad::setKeysEnabled(const char *labels, bool enabled)

@@ -6,11 +6,10 @@
 #include "KeyGrid_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
+#include "QtDifferences_p.h"
 
 #include <QGraphicsView>
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QToolButton>
 
 #define SPACE_LABEL HMI_CODEC_LITERAL("\xA9\xB8\xA9\xA4\xA9\xBC", "└─┘")
@@ -44,20 +43,25 @@ static const Keypad::KeyCell wordCells[] = {
     { "0",         3, 3, 1, Keypad::InsertLabel },
     { ".",         3, 4, 1, Keypad::InsertLabel }
 };
-
-static const Keypad::KeyCell editingCells[] = {
-    { "-",         3, 5, 1, Keypad::ToggleSign  },
-
-    { "←",         4, 0, 1, Keypad::MoveLeft    },
-    { "→",         4, 1, 1, Keypad::MoveRight   },
-    { "ESC",       4, 2, 1, Keypad::Cancel      },
-    { "BSP",       4, 3, 1, Keypad::Backspace   },
-    { SPACE_LABEL, 4, 4, 1, Keypad::InsertSpace },
-    { "Enter",     4, 5, 1, Keypad::Confirm     }
-};
 // clang-format on
 
-static const int editingKeyCount = int(sizeof(editingCells) / sizeof(editingCells[0]));
+struct vondKeypad::EditingKey
+{
+    QToolButton *vondKeypad::*key;
+    Keypad::KeyCell cell;
+};
+
+// clang-format off
+const vondKeypad::EditingKey vondKeypad::editingKeys[] = {
+    { &vondKeypad::m_signKey,  { "-",         3, 5, 1, Keypad::ToggleSign  } },
+    { &vondKeypad::m_leftKey,  { "←",         4, 0, 1, Keypad::MoveLeft    } },
+    { &vondKeypad::m_rightKey, { "→",         4, 1, 1, Keypad::MoveRight   } },
+    { &vondKeypad::m_escKey,   { "ESC",       4, 2, 1, Keypad::Cancel      } },
+    { &vondKeypad::m_bspKey,   { "BSP",       4, 3, 1, Keypad::Backspace   } },
+    { &vondKeypad::m_spaceKey, { SPACE_LABEL, 4, 4, 1, Keypad::InsertSpace } },
+    { &vondKeypad::m_enterKey, { "Enter",     4, 5, 1, Keypad::Confirm     } }
+};
+// clang-format on
 
 vondKeypad *vondKeypad::m_instance = nullptr;
 
@@ -71,8 +75,8 @@ vondKeypad *vondKeypad::instance()
 vondKeypad::vondKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
-    QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
     static_assert(sizeof(wordCells) == WordKeyCount * sizeof(wordCells[0]), "a cell for each key");
+    QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
     Keypad::addKeys(this, grid, wordCells, WordKeyCount, m_wordKeys,
                     SLOT(slot_toolButton_clicked()));
     setUpEditingKeys(grid);
@@ -137,23 +141,20 @@ void vondKeypad::showEvent(QShowEvent *event)
 
 void vondKeypad::slot_toolButton_clicked()
 {
-    QToolButton *const editingKeys[] = { m_signKey, m_leftKey,  m_rightKey, m_escKey,
-                                         m_bspKey,  m_spaceKey, m_enterKey };
-    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
-        Keypad::act(Keypad::actionOf(key, editingCells, editingKeys, editingKeyCount), key->text(),
-                    this, m_object, m_lineEdit);
+    const QToolButton *key = qobject_cast<QToolButton *>(sender());
+    if (!key)
+        return;
+    Keypad::KeyAction action = Keypad::InsertLabel;
+    for (const EditingKey &editing : editingKeys) {
+        if (this->*editing.key == key)
+            action = editing.cell.action;
+    }
+    Keypad::act(action, key->text(), this, m_object, m_lineEdit);
 }
 
 void vondKeypad::setUpEditingKeys(QGridLayout *grid)
 {
-    QToolButton *keys[editingKeyCount];
-    Keypad::addKeys(this, grid, editingCells, editingKeyCount, keys,
-                    SLOT(slot_toolButton_clicked()));
-    m_signKey = keys[0];
-    m_leftKey = keys[1];
-    m_rightKey = keys[2];
-    m_escKey = keys[3];
-    m_bspKey = keys[4];
-    m_spaceKey = keys[5];
-    m_enterKey = keys[6];
+    for (const EditingKey &editing : editingKeys)
+        this->*editing.key =
+            Keypad::addKey(this, grid, editing.cell, SLOT(slot_toolButton_clicked()));
 }

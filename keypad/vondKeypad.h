@@ -42,8 +42,8 @@ public:
     static vondKeypad *instance();
 
     /*!
-     * Builds a keypad with \a flags and Qt::FramelessWindowHint; \a parent may be
-     * null. Applications use instance().
+     * Builds a keypad with \a flags and Qt::FramelessWindowHint; \a parent may be null.
+     * Applications use instance().
      */
     vondKeypad(QWidget *parent, Qt::WindowFlags flags);
     ~vondKeypad() override;
@@ -57,8 +57,7 @@ public:
      */
     void setObject(QObject *object);
 
-    /*! Ignored: there are no modes. The call lets one piece of code drive keypads that have some.
-     */
+    /*! Ignored: there are no modes. The call lets one piece of code drive keypads with modes. */
     void setEditMode(int mode);
 
     /*! Ignored: the "." key is always enabled. */
@@ -103,10 +102,12 @@ private Q_SLOTS:
 
 private:
     enum { WordKeyCount = 22 };
+    struct EditingKey;
 
     void setUpEditingKeys(QGridLayout *grid);
 
     static vondKeypad *m_instance;
+    static const EditingKey editingKeys[];
 
     QPointer<QObject> m_object;
     QLabel *m_tipLabel;
