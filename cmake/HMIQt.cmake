@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
 # Finds the Qt that HMI_QT_MAJOR names, and says of it
+#   HMI_QT                                   its name as a CMake package, such as Qt5
 #   HMI_QT_WIDGETS, HMI_QT_SQL, HMI_QT_TEST  the targets to link
 #   HMI_QT_CXX_STANDARD                      the C++ to compile with
 #   HMI_QT_DEPENDENCY                        what users of the installed library must find
@@ -37,7 +38,7 @@ else()
     set(HMI_QT_CXX_STANDARD 11)
 endif()
 
-if(HMI_BUILD_TESTS OR HMI_BUILD_BENCHMARKS)
+if(HMI_BUILD_TESTS)
     list(APPEND modules ${test_module})
 endif()
 

@@ -3,7 +3,8 @@
 enable_testing()
 
 # hmi_set_test_surroundings(<tests>...): no display, no machine's locale, and no complaint of Qt
-# about a missing session. Qt 4 has no platform plugins: its tests use the display that is there.
+# about a missing runtime directory. Qt 4 has no platform plugins: its tests use the display that is
+# there.
 function(hmi_set_test_surroundings)
     set(surroundings LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=${PROJECT_BINARY_DIR}/runtime)
     if(HMI_QT_MAJOR GREATER 4)

@@ -23,6 +23,17 @@ static bool isAcceptable(const QValidator *validator, QString text)
     return !validator || validator->validate(text, cursor) == QValidator::Acceptable;
 }
 
+// The validator lives no longer than one entry, and the keypad does not own it.
+template <class AnyKeypad>
+static int exec(AnyKeypad *keypad, const QString &text, const QValidator *validator)
+{
+    keypad->setValidator(validator);
+    keypad->setText(text);
+    const int result = keypad->exec();
+    keypad->setValidator(nullptr);
+    return result;
+}
+
 FieldEditor::FieldEditor(MachineScreen *screen)
     : QObject(screen)
     , m_screen(screen)
@@ -84,13 +95,9 @@ int FieldEditor::runKeys(KeypadWithKeys *keypad, QObject *target, const TouchFie
     keypad->setDecimalPointEnabled(decimals(rule) > 0);
     keypad->setEditMode(rule.base);
     keypad->setMaxLength(rule.maxLength);
-    keypad->setValidator(validator);
     keypad->setPasswordEchoMode(rule.masked);
     keypad->setLimitToolTip(limitText(rule));
-    keypad->setText(field->text());
-    const int result = keypad->exec();
-    keypad->setValidator(nullptr);
-    return result;
+    return exec(keypad, field->text(), validator);
 }
 
 int FieldEditor::runCharacters(TouchField *field, const QValidator *validator)
@@ -100,10 +107,8 @@ int FieldEditor::runCharacters(TouchField *field, const QValidator *validator)
             Qt::UniqueConnection);
     keypad->setObject(field);
     keypad->setMaxLength(field->rule().maxLength);
-    keypad->setValidator(validator);
     keypad->setPasswordEchoMode(field->rule().masked);
-    keypad->setText(field->text());
-    return keypad->exec();
+    return exec(keypad, field->text(), validator);
 }
 
 int FieldEditor::runDateTime(TouchField *field, const QValidator *validator)
@@ -114,9 +119,7 @@ int FieldEditor::runDateTime(TouchField *field, const QValidator *validator)
     for (QSpinBox *part : keypad->findChildren<QSpinBox *>())
         part->setEnabled(true);
     keypad->setMaxLength(field->rule().maxLength);
-    keypad->setValidator(validator);
-    keypad->setText(field->text());
-    return keypad->exec();
+    return exec(keypad, field->text(), validator);
 }
 
 void FieldEditor::showHardKey(int key)

@@ -19,10 +19,8 @@ public:
     /*! Whether a field is being edited: from its tap until its keypad's exec() has returned. */
     bool isEditing() const { return m_editing; }
 
-public Q_SLOTS:
-    void edit(TouchField *field);
-
 private:
+    void edit(TouchField *field);
     int runKeypad(TouchField *field, const QValidator *validator);
     template <class KeypadWithKeys>
     int runKeys(KeypadWithKeys *keypad, QObject *target, const TouchField *field,

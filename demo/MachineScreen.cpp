@@ -105,7 +105,7 @@ void MachineScreen::showMessage(const QString &text)
 QWidget *MachineScreen::createTopBar()
 {
     QWidget *bar = new QWidget(this);
-    bar->setObjectName("topBar");
+    bar->setObjectName("bar");
     bar->setFixedHeight(m_unit * 14 / 10);
     m_title = createLabel(QString(), bar);
     m_title->setObjectName("pageTitle");
@@ -139,7 +139,7 @@ QWidget *MachineScreen::createSoftKeys()
                   { "SYSTEM", "系统", &MachineScreen::createSystemPage } };
 
     QWidget *bar = new QWidget(this);
-    bar->setObjectName("topBar");
+    bar->setObjectName("bar");
     QHBoxLayout *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(m_unit / 4, m_unit / 6, m_unit / 4, m_unit / 6);
     layout->setSpacing(m_unit / 4);

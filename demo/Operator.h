@@ -14,8 +14,7 @@ namespace Operator {
 /*! The keypad that is open, or null. */
 QWidget *openKeypad();
 
-/*! Whether a window can be worked: it is on the screen, and active; if it is not, it is asked to
- * be. */
+/*! Whether \a window is on the screen and active. Asks an inactive one to become active. */
 bool isReady(QWidget *window);
 
 /*! Taps the middle of \a widget. */

@@ -57,16 +57,10 @@ static int readRotation(const QString &text)
 
 static QString findTranslation(const QString &language)
 {
-    const QStringList folders { HMI_TRANSLATIONS,
-                                QCoreApplication::applicationDirPath()
-                                    + "/../share/HMIDevice/translations" };
-    for (const QString &folder : folders) {
-        const QString path = QString("%1/HMIDevice_%2.qm").arg(folder, language);
-        if (QFileInfo(path).isFile())
-            return path;
-    }
-    fail(QString("--language: there is no translation \"%1\"; try zh_CN").arg(language));
-    return QString();
+    const QString path = QString(HMI_TRANSLATIONS "/HMIDevice_%1.qm").arg(language);
+    if (!QFileInfo(path).isFile())
+        fail(QString("--language: there is no translation \"%1\"; try zh_CN").arg(language));
+    return path;
 }
 
 static QString makeFolder(const QString &path)

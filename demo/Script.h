@@ -29,8 +29,7 @@ struct Step
     const char *picture; // what has happened, for the picture's name; null leaves no picture
 };
 
-/*! The operator session for the panel model that is set; Chinese is typed with a dictionary only.
- */
+/*! The operator's steps for the panel model that is set; Chinese only \a withDictionary. */
 QVector<Step> sessionSteps(bool withDictionary);
 
 #endif

@@ -58,7 +58,7 @@ QPalette palette(const Theme &theme)
 
 const char styleSheet[] = R"(
 MachineScreen { background: $screen; }
-#topBar { background: $bar; }
+#bar { background: $bar; }
 #pageTitle { color: $accent; }
 #message { color: $label; }
 #mode { color: $screen; background: $value; border-radius: 3px; padding: 0 6px; }

@@ -29,9 +29,8 @@ void Console::complain(const QString &line)
 void Console::showProgress(const QString &what, qint64 done, qint64 total)
 {
     static const bool onTerminal = isatty(STDERR_FILENO);
-    if (!onTerminal || total <= 0) {
+    if (!onTerminal || total <= 0)
         return;
-    }
     const QString text = QStringLiteral("%1 %2%").arg(what).arg(done * 100 / total);
     if (text != progressShown) {
         clearProgress();

@@ -19,9 +19,8 @@ Database::Database(const QString &fileName, Access access, const QString &shownN
           QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QLatin1String(connectionName)))
 {
     m_database.setDatabaseName(fileName);
-    if (access == ReadOnly) {
+    if (access == ReadOnly)
         m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
-    }
     if (!m_database.open()) {
         const Failure failure = failed(m_shownName, m_database.lastError());
         m_database = QSqlDatabase();
@@ -48,15 +47,13 @@ QSqlQuery Database::prepared(const QString &statement) const
 {
     QSqlQuery query(m_database);
     query.setForwardOnly(true);
-    if (!query.prepare(statement)) {
+    if (!query.prepare(statement))
         throw failed(m_shownName, query.lastError());
-    }
     return query;
 }
 
 void Database::execute(QSqlQuery *query) const
 {
-    if (!query->exec()) {
+    if (!query->exec())
         throw failed(m_shownName, query->lastError());
-    }
 }

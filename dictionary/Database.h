@@ -15,15 +15,14 @@ public:
     /*! \a shownName is what messages call the file. */
     Database(const QString &fileName, Access access, const QString &shownName);
     ~Database();
+    Database(const Database &) = delete;
+    Database &operator=(const Database &) = delete;
 
     QSqlQuery run(const QString &statement) const;
     QSqlQuery prepared(const QString &statement) const;
     void execute(QSqlQuery *query) const;
 
 private:
-    Database(const Database &);
-    Database &operator=(const Database &);
-
     QString m_shownName;
     QSqlDatabase m_database;
 };

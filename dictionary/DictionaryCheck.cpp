@@ -22,9 +22,8 @@ static const int timeForQueries = 1000; // milliseconds
 static bool isKeyUntypable(const QString &key, const QString &)
 {
     for (const QChar letter : key) {
-        if (letter < QLatin1Char('a') || letter > QLatin1Char('z')) {
+        if (letter < QLatin1Char('a') || letter > QLatin1Char('z'))
             return true;
-        }
     }
     return key.isEmpty();
 }
@@ -96,9 +95,8 @@ class Offenders
 public:
     void add(const QString &example)
     {
-        if (++m_count <= mostExamples) {
+        if (++m_count <= mostExamples)
             m_examples << (example.size() > 40 ? example.left(40) + QChar(0x2026) : example);
-        }
     }
 
     void reportTo(QStringList *findings, const QString &finding) const
@@ -165,9 +163,8 @@ bool DictionaryCheck::hasTable()
     QSqlQuery tables =
         m_database.run(QStringLiteral("SELECT name FROM sqlite_master WHERE type IN ('table', "
                                       "'view') AND lower(name) = 'pinyin'"));
-    if (tables.next()) {
+    if (tables.next())
         return true;
-    }
     m_report.findings << QStringLiteral("no table \"pinyin\"");
     return false;
 }
@@ -194,18 +191,16 @@ void DictionaryCheck::checkWholeness()
     QSqlQuery problems = m_database.run(QStringLiteral("PRAGMA integrity_check(1)"));
     while (problems.next()) {
         const QString problem = problems.value(0).toString();
-        if (problem != QLatin1String("ok")) {
+        if (problem != QLatin1String("ok"))
             m_report.findings << QStringLiteral("the file is damaged: ") + problem.simplified();
-        }
     }
 }
 
 void DictionaryCheck::checkJournal()
 {
     QSqlQuery mode = m_database.run(QStringLiteral("PRAGMA journal_mode"));
-    if (mode.next() && mode.value(0).toString() == QLatin1String("wal")) {
+    if (mode.next() && mode.value(0).toString() == QLatin1String("wal"))
         m_report.findings << QStringLiteral("journal mode WAL: even readers leave files beside it");
-    }
 }
 
 void DictionaryCheck::checkRows()
@@ -221,9 +216,8 @@ void DictionaryCheck::checkRows()
         m_keys << key;
         ++m_report.rows;
         for (int i = 0; i < ruleCount; ++i) {
-            if (rowRules[i].isBroken(key, candidate)) {
+            if (rowRules[i].isBroken(key, candidate))
                 offenders[i].add((key + QLatin1Char(' ') + candidate).simplified());
-            }
         }
     }
     m_report.keys = m_keys.size();
@@ -257,9 +251,8 @@ void DictionaryCheck::checkSyllables()
 {
     Offenders missing;
     for (const QString &syllable : standardSyllables()) {
-        if (!m_keys.contains(syllable)) {
+        if (!m_keys.contains(syllable))
             missing.add(syllable);
-        }
     }
     missing.reportTo(&m_report.findings, QStringLiteral("standard syllables without a candidate"));
 }
@@ -270,9 +263,8 @@ void DictionaryCheck::checkIndex()
     QSqlQuery plan =
         m_database.run(QStringLiteral("EXPLAIN QUERY PLAN ") + keypadQuery(QStringLiteral("a")));
     bool searches = false;
-    while (plan.next()) {
+    while (plan.next())
         searches |= plan.value(3).toString().startsWith(QLatin1String("SEARCH"));
-    }
     if (!searches) {
         m_report.findings << QStringLiteral(
                                  "no index on \"py\": every letter typed reads the whole "
@@ -286,15 +278,13 @@ void DictionaryCheck::timeQueries()
     QElapsedTimer all;
     all.start();
     for (const QString &key : standardSyllables()) {
-        if (m_report.timedQueries == mostTimedQueries || all.elapsed() > timeForQueries) {
+        if (m_report.timedQueries == mostTimedQueries || all.elapsed() > timeForQueries)
             return;
-        }
         QElapsedTimer one;
         one.start();
         QSqlQuery rows = m_database.run(keypadQuery(key));
-        for (int i = 0; i < MostRowsSeen && rows.next(); ++i) {
+        for (int i = 0; i < MostRowsSeen && rows.next(); ++i)
             rows.value(1).toString();
-        }
         m_report.slowestQuery = qMax(m_report.slowestQuery, double(one.nsecsElapsed()) / 1e6);
         ++m_report.timedQueries;
     }
@@ -307,8 +297,7 @@ QString DictionaryCheck::keypadQuery(const QString &key) const
 
 CheckReport checkDictionary(const QString &fileName)
 {
-    if (!QFileInfo(fileName).isFile()) {
+    if (!QFileInfo(fileName).isFile())
         throw Failure { QDir::toNativeSeparators(fileName) + QStringLiteral(": no such file") };
-    }
     return DictionaryCheck(fileName).run();
 }

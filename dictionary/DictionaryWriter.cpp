@@ -35,9 +35,8 @@ static void insertRows(const Database &database, const QVector<DictionaryRow> &r
 
 static void build(const Database &database, const QVector<DictionaryRow> &rows)
 {
-    for (const char *setting : settings) {
+    for (const char *setting : settings)
         database.run(QLatin1String(setting));
-    }
     database.run(QStringLiteral("BEGIN"));
     database.run(QStringLiteral("CREATE TABLE pinyin (py TEXT NOT NULL, word TEXT NOT NULL)"));
     insertRows(database, rows);
@@ -56,14 +55,18 @@ static void refuseToReplace(const QFileInfo &target)
     }
 }
 
+static Failure unwritable(const QString &fileName, const QString &reason)
+{
+    return Failure {
+        QStringLiteral("%1: cannot be written: %2").arg(QDir::toNativeSeparators(fileName), reason)
+    };
+}
+
 static void moveInto(const QString &from, const QString &fileName)
 {
     // QFile::rename() refuses to replace a file
-    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(fileName).constData())) {
-        throw Failure { QStringLiteral("%1: cannot be written: %2")
-                            .arg(QDir::toNativeSeparators(fileName),
-                                 QString::fromLocal8Bit(std::strerror(errno))) };
-    }
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(fileName).constData()))
+        throw unwritable(fileName, QString::fromLocal8Bit(std::strerror(errno)));
 }
 
 void writeDictionary(const QString &fileName, const QVector<DictionaryRow> &rows)
@@ -71,10 +74,8 @@ void writeDictionary(const QString &fileName, const QVector<DictionaryRow> &rows
     const QFileInfo target(fileName);
     refuseToReplace(target);
     QTemporaryDir workshop(target.absoluteFilePath() + QStringLiteral(".XXXXXX"));
-    if (!workshop.isValid()) {
-        throw Failure { QStringLiteral("%1: cannot be written: %2")
-                            .arg(QDir::toNativeSeparators(fileName), workshop.errorString()) };
-    }
+    if (!workshop.isValid())
+        throw unwritable(fileName, workshop.errorString());
     const QString made = workshop.path() + QStringLiteral("/data.db");
     build(Database(made, Database::ReadWrite, QDir::toNativeSeparators(fileName)), rows);
     moveInto(made, target.absoluteFilePath());

@@ -25,7 +25,6 @@ void noticeInterruptions()
 
 void stopIfInterrupted()
 {
-    if (interrupted) {
+    if (interrupted)
         throw Failure { QStringLiteral("interrupted") };
-    }
 }

@@ -65,9 +65,8 @@ static void addOptions(QCommandLineParser *parser)
 {
     for (const OptionRow &row : rows) {
         QStringList names(QLatin1String(row.name));
-        if (row.letter) {
+        if (row.letter)
             names.prepend(QLatin1String(row.letter));
-        }
         QCommandLineOption option(names, QLatin1String(row.description));
         if (row.valueName) {
             option.setValueName(QLatin1String(row.valueName));
@@ -80,9 +79,8 @@ static void addOptions(QCommandLineParser *parser)
 /*! Says why the options do not go together; empty when they do. */
 static QString contradiction(const QCommandLineParser &parser)
 {
-    if (!parser.positionalArguments().isEmpty()) {
+    if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("unexpected argument: ") + parser.positionalArguments().first();
-    }
     if (parser.isSet(nameOf(MachineToolWords)) && parser.isSet(nameOf(NoMachineToolWords))) {
         return QStringLiteral(
             "--machine-tool-words and --no-machine-tool-words exclude each other");
@@ -90,9 +88,8 @@ static QString contradiction(const QCommandLineParser &parser)
     const bool checks = parser.isSet(nameOf(Check));
     for (int i = 0; i < OptionCount; ++i) {
         const OptionIndex index = OptionIndex(i);
-        if (checks && index != Check && parser.isSet(nameOf(index))) {
+        if (checks && index != Check && parser.isSet(nameOf(index)))
             return QStringLiteral("--check goes with no other option");
-        }
         if (parser.isSet(nameOf(index)) && rows[i].valueName
             && parser.values(nameOf(index)).contains(QString())) {
             return QStringLiteral("--%1 needs the name of a file").arg(nameOf(index));
@@ -124,9 +121,8 @@ static Options asked(const QCommandLineParser &parser)
     options.checkedFile = parser.value(nameOf(Check));
     options.output = parser.value(nameOf(Output));
     options.words = parser.values(nameOf(Words));
-    if (!parser.isSet(nameOf(NoMachineToolWords))) {
+    if (!parser.isSet(nameOf(NoMachineToolWords)))
         options.machineToolWords = parser.value(nameOf(MachineToolWords));
-    }
     return options;
 }
 
@@ -135,12 +131,10 @@ Options readOptions(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QString::fromUtf8(description));
     addOptions(&parser);
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(arguments))
         return refuse(parser.errorText());
-    }
-    if (parser.isSet(nameOf(Help))) {
+    if (parser.isSet(nameOf(Help)))
         return showText(parser.helpText());
-    }
     if (parser.isSet(nameOf(Version))) {
         return showText(QCoreApplication::applicationName() + QLatin1Char(' ')
                         + QCoreApplication::applicationVersion());

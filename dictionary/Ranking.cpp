@@ -27,9 +27,8 @@ static bool ranksBefore(const Match &a, const Match &b)
 static void addMatch(QVector<Match> *matches, const QByteArray &key, MatchKind kind,
                      const WordEntry &entry)
 {
-    if (key.size() <= LongestKey) {
+    if (key.size() <= LongestKey)
         *matches << Match { key, kind, &entry };
-    }
 }
 
 static void addMatches(QVector<Match> *matches, const WordEntry &entry)
@@ -37,21 +36,18 @@ static void addMatches(QVector<Match> *matches, const WordEntry &entry)
     const bool oneSyllable = entry.syllables.size() == 1;
     for (const QByteArray &pinyin : wholePinyin(entry.syllables)) {
         addMatch(matches, pinyin, WholePinyin, entry);
-        for (int length = 1; oneSyllable && length < pinyin.size(); ++length) {
+        for (int length = 1; oneSyllable && length < pinyin.size(); ++length)
             addMatch(matches, pinyin.left(length), Beginning, entry);
-        }
     }
-    if (!oneSyllable) {
+    if (!oneSyllable)
         addMatch(matches, initials(entry.syllables), Initials, entry);
-    }
 }
 
 static QVector<Match> sortedMatches(const QVector<WordEntry> &entries)
 {
     QVector<Match> matches;
-    for (const WordEntry &entry : entries) {
+    for (const WordEntry &entry : entries)
         addMatches(&matches, entry);
-    }
     std::sort(matches.begin(), matches.end(), ranksBefore);
     return matches;
 }

@@ -23,9 +23,8 @@ static QByteArray asTyped(const QString &syllable)
     QString lower = syllable.toLower();
     const QByteArray letters = lower.replace(QChar(0xfc), QLatin1Char('v')).toUtf8();
     for (const Spelling &spelling : twoSpellings) {
-        if (letters == spelling.alsoTyped) {
+        if (letters == spelling.alsoTyped)
             return spelling.typed;
-        }
     }
     return letters;
 }
@@ -33,9 +32,8 @@ static QByteArray asTyped(const QString &syllable)
 static QByteArray alsoTyped(const QByteArray &syllable)
 {
     for (const Spelling &spelling : twoSpellings) {
-        if (syllable == spelling.typed) {
+        if (syllable == spelling.typed)
             return spelling.alsoTyped;
-        }
     }
     return syllable;
 }
@@ -47,9 +45,8 @@ QStringList standardSyllables()
     file.open(QIODevice::ReadOnly);
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine()).simplified();
-        if (!line.isEmpty() && !line.startsWith(QLatin1Char('#'))) {
+        if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')))
             syllables += line.split(QLatin1Char(' '));
-        }
     }
     return syllables;
 }
@@ -59,9 +56,8 @@ Syllables readSyllables(const QString &text)
     Syllables syllables;
     for (const QString &part : text.simplified().split(QLatin1Char(' '))) {
         const QByteArray syllable = asTyped(part);
-        if (syllable.isEmpty() || !std::all_of(syllable.begin(), syllable.end(), isLetter)) {
+        if (syllable.isEmpty() || !std::all_of(syllable.begin(), syllable.end(), isLetter))
             return Syllables();
-        }
         syllables += syllable;
     }
     return syllables;
@@ -76,17 +72,15 @@ QList<QByteArray> wholePinyin(const Syllables &syllables)
     }
     QList<QByteArray> spellings;
     spellings << typed;
-    if (other != typed) {
+    if (other != typed)
         spellings << other;
-    }
     return spellings;
 }
 
 QByteArray initials(const Syllables &syllables)
 {
     QByteArray letters;
-    for (const QByteArray &syllable : syllables) {
+    for (const QByteArray &syllable : syllables)
         letters += syllable.at(0);
-    }
     return letters;
 }

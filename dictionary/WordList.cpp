@@ -30,41 +30,33 @@ static QByteArray readOneLine(QFile *file)
 
 static QString decoded(QByteArray line, const QString &place)
 {
-    if (line.size() == longestLine && !line.endsWith('\n')) {
+    if (line.size() == longestLine && !line.endsWith('\n'))
         throw Failure { place + QStringLiteral(": the line is too long; this is not a word list") };
-    }
-    if (line.startsWith("\xef\xbb\xbf")) {
+    if (line.startsWith("\xef\xbb\xbf"))
         line.remove(0, 3);
-    }
     const QString text = QString::fromUtf8(line);
-    if (text.toUtf8() != line || line.contains('\0')) {
+    if (text.toUtf8() != line || line.contains('\0'))
         throw Failure { place + QStringLiteral(": not UTF-8 text; convert the file to UTF-8") };
-    }
     return text;
 }
 
 /*! Says why \a columns make no entry; empty when they do and \a entry is filled in. */
 static QString fillIn(WordEntry *entry, const QStringList &columns)
 {
-    if (columns.size() < 3) {
+    if (columns.size() < 3)
         return QStringLiteral("fewer than three columns");
-    }
     entry->word = columns.at(0).trimmed();
     entry->syllables = readSyllables(columns.at(1));
     bool isNumber = false;
     entry->weight = columns.at(2).trimmed().toLongLong(&isNumber);
-    if (entry->word.isEmpty()) {
+    if (entry->word.isEmpty())
         return QStringLiteral("no word");
-    }
-    if (entry->word.toUcs4().size() > LongestCandidate) {
+    if (entry->word.toUcs4().size() > LongestCandidate)
         return QStringLiteral("word of more than %1 characters").arg(int(LongestCandidate));
-    }
-    if (entry->syllables.isEmpty()) {
+    if (entry->syllables.isEmpty())
         return QStringLiteral("syllables with other than letters");
-    }
-    if (!isNumber || entry->weight < 0) {
+    if (!isNumber || entry->weight < 0)
         return QStringLiteral("weight that is no whole number from 0");
-    }
     if (wholePinyin(entry->syllables).first().size() > LongestKey
         && (entry->syllables.size() < 2 || entry->syllables.size() > LongestKey)) {
         return QStringLiteral("no key of at most %1 letters").arg(int(LongestKey));
@@ -76,16 +68,13 @@ void WordList::read(const QString &fileName, ListRank list)
 {
     const int before = m_entries.size();
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         throw Failure { unreadable(file) };
-    }
     readLines(file, list);
-    if (file.error() != QFile::NoError) {
+    if (file.error() != QFile::NoError)
         throw Failure { unreadable(file) };
-    }
-    if (m_entries.size() == before) {
+    if (m_entries.size() == before)
         throw Failure { QDir::toNativeSeparators(fileName) + QStringLiteral(": holds no entry") };
-    }
 }
 
 void WordList::readLines(QFile &file, ListRank list)

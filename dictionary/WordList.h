@@ -36,6 +36,9 @@ public:
     void read(const QString &fileName, ListRank list);
 
     const QVector<WordEntry> &entries() const { return m_entries; }
+    int skippedCount() const { return m_skippedCount; }
+
+    /*! The reasons for which lines were skipped, each with their number. */
     const QMap<QString, int> &skippedLines() const { return m_skippedLines; }
 
 private:
@@ -44,7 +47,7 @@ private:
     void skip(const QString &place, const QString &reason);
 
     QVector<WordEntry> m_entries;
-    QMap<QString, int> m_skippedLines; // reason, number of lines
+    QMap<QString, int> m_skippedLines;
     int m_skippedCount = 0;
 };
 

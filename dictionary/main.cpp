@@ -22,25 +22,18 @@ static void printSummary(const WordList &words, const RankedRows &ranking, const
     Console::print(QStringLiteral("entries read: %1").arg(words.entries().size()));
     Console::print(QStringLiteral("keys: %1").arg(ranking.keys));
     Console::print(QStringLiteral("rows: %1").arg(ranking.rows.size()));
-    int skipped = 0;
-    for (int lines : words.skippedLines()) {
-        skipped += lines;
-    }
-    Console::print(QStringLiteral("skipped lines: %1").arg(skipped));
-    for (const QString &reason : words.skippedLines().keys()) {
+    Console::print(QStringLiteral("skipped lines: %1").arg(words.skippedCount()));
+    for (const QString &reason : words.skippedLines().keys())
         Console::print(QStringLiteral("  %1: %2").arg(reason).arg(words.skippedLines()[reason]));
-    }
 }
 
 static ExitStatus makeDictionary(const Options &options)
 {
     WordList words;
-    if (!options.machineToolWords.isEmpty()) {
+    if (!options.machineToolWords.isEmpty())
         words.read(options.machineToolWords, MachineToolList);
-    }
-    for (const QString &fileName : options.words) {
+    for (const QString &fileName : options.words)
         words.read(fileName, GeneralList);
-    }
     const RankedRows ranking = ranked(words.entries());
     writeDictionary(options.output, ranking.rows);
     printSummary(words, ranking, options.output);
@@ -50,9 +43,8 @@ static ExitStatus makeDictionary(const Options &options)
 static ExitStatus checkDictionaryFile(const QString &fileName)
 {
     const CheckReport report = checkDictionary(fileName);
-    for (const QString &finding : report.findings) {
+    for (const QString &finding : report.findings)
         Console::print(finding);
-    }
     Console::print(QStringLiteral("%1: keys: %2, rows: %3, slowest of %4 queries: %5 ms")
                        .arg(QDir::toNativeSeparators(fileName))
                        .arg(report.keys)
