@@ -78,14 +78,20 @@ inline QList<QToolButton *> letterKeys(const CharacterKeypad &keypad)
     return keys;
 }
 
+/* Whether a part of a keypad can be seen as soon as the keypad itself is shown. */
+inline bool isInUse(const QWidget *part)
+{
+    return part->isVisibleTo(part->window());
+}
+
 /*
  * Which face the keypad shows: the key left of the third letter row, the language key, the symbol
  * key, the first letter key and the panel in use. "caps CN *# q digits", for instance.
  */
 inline QString face(const CharacterKeypad &keypad)
 {
-    const bool digits = digitPanel(keypad)->isVisibleTo(&keypad);
-    const bool candidates = candidatePanel(keypad)->isVisibleTo(&keypad);
+    const bool digits = isInUse(digitPanel(keypad));
+    const bool candidates = isInUse(candidatePanel(keypad));
     QStringList words;
     const QString mode = modeKey(keypad)->text();
     words << (mode.isEmpty() ? u("blank") : mode) << languageKey(keypad)->text()
@@ -102,7 +108,7 @@ inline QToolButton *shownKey(const CharacterKeypad &keypad, const QString &label
 {
     const QList<QToolButton *> keys = keypad.findChildren<QToolButton *>();
     for (int i = 0; i < keys.size(); ++i) {
-        if (keys.at(i)->text() == label && keys.at(i)->isVisibleTo(&keypad))
+        if (keys.at(i)->text() == label && isInUse(keys.at(i)))
             return keys.at(i);
     }
     return nullptr;

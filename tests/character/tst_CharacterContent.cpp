@@ -262,9 +262,7 @@ void tst_CharacterContent::contentIsTakenLiterally_data()
     QTest::newRow("paging in English") << ""
                                        << ">"
                                        << "a>b";
-    QTest::newRow("Chinese text in English") << ""
-                                             << "主轴"
-                                             << "a主轴b";
+    QTest::newRow("Chinese text in English") << "" << u("主轴") << u("a主轴b");
 }
 
 void tst_CharacterContent::contentIsTakenLiterally()

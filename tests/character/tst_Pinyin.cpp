@@ -378,10 +378,8 @@ void tst_Pinyin::candidatesAreInsertedAsTheyStand_data()
     QTest::addColumn<QString>("word");
     QTest::addColumn<QString>("inserted");
 
-    QTest::newRow("several words") << "你 好,吗"
-                                   << "你 好,吗";
-    QTest::newRow("markup") << "<b>你</b>&amp;"
-                            << "<b>你</b>&amp;";
+    QTest::newRow("several words") << u("你 好,吗") << u("你 好,吗");
+    QTest::newRow("markup") << u("<b>你</b>&amp;") << u("<b>你</b>&amp;");
     QTest::newRow("ampersands") << "&&"
                                 << "&&";
     QTest::newRow("quotes") << "'\"'"
@@ -390,8 +388,7 @@ void tst_Pinyin::candidatesAreInsertedAsTheyStand_data()
                             << "42";
     QTest::newRow("capital") << "N"
                              << "N";
-    QTest::newRow("beyond the basic plane") << "𠮷"
-                                            << "𠮷";
+    QTest::newRow("beyond the basic plane") << u("𠮷") << u("𠮷");
 }
 
 void tst_Pinyin::candidatesAreInsertedAsTheyStand()

@@ -603,29 +603,29 @@ void tst_DateTimeKeypad::displayStartsEmpty()
 
 void tst_DateTimeKeypad::lengthChoosesTheFormat_data()
 {
-    QTest::addColumn<QVariantList>("lengths");
+    QTest::addColumn<QStringList>("lengths");
     QTest::addColumn<QString>("enabled");
     QTest::addColumn<QString>("shown");
 
     const QString date("year month day");
     const QString time("hour minute second");
     const QString all = date + " " + time;
-    QTest::newRow("none") << QVariantList() << all << shownTime;
-    QTest::newRow("10") << (QVariantList() << 10) << date << "2024-05-17";
-    QTest::newRow("8") << (QVariantList() << 8) << time << "08:09:10";
-    QTest::newRow("19") << (QVariantList() << 19) << all << shownTime;
-    QTest::newRow("9") << (QVariantList() << 9) << all << "2024-05-1";
-    QTest::newRow("0") << (QVariantList() << 0) << all << "";
-    QTest::newRow("10, then 8") << (QVariantList() << 10 << 8) << time << "08:09:10";
-    QTest::newRow("8, then 10") << (QVariantList() << 8 << 10) << date << "2024-05-17";
-    QTest::newRow("10, then 19") << (QVariantList() << 10 << 19) << date << shownTime;
-    QTest::newRow("8, then 19") << (QVariantList() << 8 << 19) << time << shownTime;
+    QTest::newRow("none") << QStringList() << all << shownTime;
+    QTest::newRow("10") << words("10") << date << "2024-05-17";
+    QTest::newRow("8") << words("8") << time << "08:09:10";
+    QTest::newRow("19") << words("19") << all << shownTime;
+    QTest::newRow("9") << words("9") << all << "2024-05-1";
+    QTest::newRow("0") << words("0") << all << "";
+    QTest::newRow("10, then 8") << words("10 8") << time << "08:09:10";
+    QTest::newRow("8, then 10") << words("8 10") << date << "2024-05-17";
+    QTest::newRow("10, then 19") << words("10 19") << date << shownTime;
+    QTest::newRow("8, then 19") << words("8 19") << time << shownTime;
 }
 
 void tst_DateTimeKeypad::lengthChoosesTheFormat()
 {
-    QFETCH(QVariantList, lengths);
-    for (const QVariant &length : lengths)
+    QFETCH(QStringList, lengths);
+    for (const QString &length : lengths)
         m_keypad->setMaxLength(length.toInt());
     m_keypad->setText(shownTime);
     QTEST(enabledFields(m_keypad), "enabled");

@@ -100,7 +100,7 @@ QStringList enabledKeyLabels(const QWidget *keypad)
 
 QRect gridCells(const QWidget *keypad, const QString &label)
 {
-    const QGridLayout *grid = keypad->findChild<QGridLayout *>();
+    QGridLayout *grid = keypad->findChild<QGridLayout *>();
     const int index = grid->indexOf(key(keypad, label));
     if (index < 0)
         return QRect();
