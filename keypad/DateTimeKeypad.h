@@ -78,8 +78,9 @@ public:
     /*!
      * Shows \a text and takes the spin boxes' values from it. Its length, not the chosen format,
      * tells what it is: 10 characters a date, 8 a time (of 1900-01-01), anything else date and
-     * time. A text that is neither sets every spin box to its minimum. As soon as a spin box
-     * changes, the composed value takes the place of \a text.
+     * time. A text that is neither sets every spin box to its minimum; with Qt 4.8, which reads
+     * dates up to 7999, so does a later one. As soon as a spin box changes, the composed value
+     * takes the place of \a text.
      */
     void setText(const QString &text);
 

@@ -166,6 +166,8 @@ void tst_KeypadLook::typeThirteenIsDark()
     const PartColour &expected = darkScheme[row];
     KeypadStage stage(13);
     const QList<QWidget *> widgets = widgetsOf(expected.part, stage.dialog());
+    if (widgets.isEmpty())
+        HMI_SKIP("this keypad has no line for limits");
     for (const QWidget *widget : widgets) {
         const QBrush brush = widget->palette().brush(expected.group, expected.role);
         QCOMPARE(brush.color() == expected.colour, hasDarkScheme(13));

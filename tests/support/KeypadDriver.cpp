@@ -44,6 +44,13 @@ private:
 
 } // namespace
 
+QRect rectCovering(const QGraphicsView *view)
+{
+    const QWidget *viewport = view->viewport();
+    const QRect visible(viewport->mapToGlobal(QPoint(0, 0)), viewport->size());
+    return visible.translated(viewport->pos());
+}
+
 PanelView::PanelView(DeviceType type, const QSize &size, Frame frame)
 {
     HMIDeviceInfo::setDeviceInfo(type, size);
@@ -59,13 +66,6 @@ PanelView::~PanelView()
 {
     HMIDeviceInfo::setGraphicsView(nullptr);
     HMIDeviceInfo::setDeviceInfo(1, QSize());
-}
-
-QRect PanelView::coveredRect() const
-{
-    const QRect rect = viewport()->geometry();
-    return QRect(viewport()->mapToGlobal(rect.topLeft()),
-                 viewport()->mapToGlobal(rect.bottomRight()));
 }
 
 QToolButton *key(const QWidget *keypad, const QString &label)

@@ -2,6 +2,8 @@
 #ifndef KEYPADDRIVER_H
 #define KEYPADDRIVER_H
 
+#include "QtDifferences.h"
+
 #include <HMIDevice/HMIDeviceInfo.h>
 
 #include <QDialog>
@@ -17,18 +19,14 @@ class KeyBoardLineEdit;
 
 // Works a keypad as an operator does, and sets the stage for it.
 
-/* In Qt 4.8 QSKIP() takes a mode as well. */
-#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
-#define HMI_SKIP(reason) QSKIP(reason, SkipSingle)
-#else
-#define HMI_SKIP(reason) QSKIP(reason)
-#endif
-
 /* A text of non-ASCII characters, the source files being UTF-8. */
 inline QString u(const char *utf8)
 {
     return QString::fromUtf8(utf8);
 }
+
+/* What covers \a view: its viewport's true place, shifted once more by the frame around it. */
+QRect rectCovering(const QGraphicsView *view);
 
 /*
  * The application's main view, shown, of the panel's screen size and registered in the device
@@ -42,8 +40,8 @@ public:
     explicit PanelView(DeviceType type, const QSize &size = QSize(640, 480), Frame frame = Framed);
     ~PanelView() override;
 
-    /* What a keypad that covers this view must cover, worked out from the rule. */
-    QRect coveredRect() const;
+    /* What a keypad that covers this view must cover. */
+    QRect coveredRect() const { return rectCovering(this); }
 };
 
 /* The keypad's key with this label, or null; \a u("←") is a label like any other. */

@@ -5,6 +5,7 @@
 #include <QMetaMethod>
 #include <QObject>
 #include <QString>
+#include <QtTest>
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #include <QTextCodec>
 #endif
@@ -16,6 +17,13 @@
 #define HMI_MAPPED_SIGNAL SIGNAL(mapped(QString))
 #else
 #define HMI_MAPPED_SIGNAL SIGNAL(mappedString(QString))
+#endif
+
+/* Skips the data row, which in Qt 4.8 is a mode of skipping. */
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+#define HMI_SKIP(reason) QSKIP(reason, SkipSingle)
+#else
+#define HMI_SKIP(reason) QSKIP(reason)
 #endif
 
 namespace QtDifferences {
