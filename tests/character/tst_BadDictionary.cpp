@@ -427,6 +427,9 @@ void tst_BadDictionary::lockedWhenTheKeypadIsBuilt()
     locked.workInChinese();
     locked.workInEnglish();
     QVERIFY(writer.release());
+
+    locked.step("CN h a o");
+    QCOMPARE(candidateLine(locked.keypad()), u("好 号 毫 豪 耗"));
     QCOMPARE(locked.complaint(), QString());
 }
 
