@@ -66,7 +66,7 @@ GCodeKeypad::GCodeKeypad(QWidget *parent, Qt::WindowFlags flags)
 {
     QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
     setUpCharKeys(grid);
-    setUpEditingKeys(grid);
+    Keypad::addNamedKeys(this, grid, editingKeys, SLOT(slot_toolButton_clicked()));
     Keypad::finishFixedFace(this, m_tipLabel);
 }
 
@@ -132,15 +132,9 @@ void GCodeKeypad::showEvent(QShowEvent *event)
 
 void GCodeKeypad::slot_toolButton_clicked()
 {
-    const QToolButton *key = qobject_cast<QToolButton *>(sender());
-    if (!key)
-        return;
-    Keypad::KeyAction action = Keypad::InsertLabel;
-    for (const EditingKey &editing : editingKeys) {
-        if (this->*editing.key == key)
-            action = editing.cell.action;
-    }
-    Keypad::act(action, key->text(), this, m_object, m_lineEdit);
+    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
+        Keypad::act(Keypad::actionOf(key, this, editingKeys), key->text(), this, m_object,
+                    m_lineEdit);
 }
 
 void GCodeKeypad::setUpCharKeys(QGridLayout *grid)
@@ -153,11 +147,4 @@ void GCodeKeypad::setUpCharKeys(QGridLayout *grid)
             m_charKeys[row][i] = Keypad::addKey(this, grid, cell, SLOT(slot_toolButton_clicked()));
         }
     }
-}
-
-void GCodeKeypad::setUpEditingKeys(QGridLayout *grid)
-{
-    for (const EditingKey &editing : editingKeys)
-        this->*editing.key =
-            Keypad::addKey(this, grid, editing.cell, SLOT(slot_toolButton_clicked()));
 }

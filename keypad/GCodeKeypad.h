@@ -111,7 +111,6 @@ private:
     struct EditingKey;
 
     void setUpCharKeys(QGridLayout *grid);
-    void setUpEditingKeys(QGridLayout *grid);
 
     static GCodeKeypad *m_instance;
     static const EditingKey editingKeys[];

@@ -44,6 +44,29 @@ void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, int count
 /* The position of \a key in \a keys, or -1. */
 int indexOfKey(const QObject *key, QToolButton *const *keys, int count);
 
+/*
+ * Makes the keys of a table whose rows say which member of \a keypad a key is, and its cell:
+ * struct { QToolButton *Owner::*key; KeyCell cell; }
+ */
+template <class Owner, class NamedKey, int count>
+void addNamedKeys(Owner *keypad, QGridLayout *grid, const NamedKey (&keys)[count],
+                  const char *clickedSlot)
+{
+    for (const NamedKey &named : keys)
+        keypad->*named.key = addKey(keypad, grid, named.cell, clickedSlot);
+}
+
+/* The action of \a key by its row in such a table; a key that has no row inserts its label. */
+template <class Owner, class NamedKey, int count>
+KeyAction actionOf(const QToolButton *key, const Owner *keypad, const NamedKey (&keys)[count])
+{
+    for (const NamedKey &named : keys) {
+        if (keypad->*named.key == key)
+            return named.cell.action;
+    }
+    return InsertLabel;
+}
+
 } // namespace Keypad
 
 #endif

@@ -79,7 +79,7 @@ vondKeypad::vondKeypad(QWidget *parent, Qt::WindowFlags flags)
     QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
     Keypad::addKeys(this, grid, wordCells, WordKeyCount, m_wordKeys,
                     SLOT(slot_toolButton_clicked()));
-    setUpEditingKeys(grid);
+    Keypad::addNamedKeys(this, grid, editingKeys, SLOT(slot_toolButton_clicked()));
     Keypad::finishFixedFace(this, m_tipLabel);
 }
 
@@ -141,20 +141,7 @@ void vondKeypad::showEvent(QShowEvent *event)
 
 void vondKeypad::slot_toolButton_clicked()
 {
-    const QToolButton *key = qobject_cast<QToolButton *>(sender());
-    if (!key)
-        return;
-    Keypad::KeyAction action = Keypad::InsertLabel;
-    for (const EditingKey &editing : editingKeys) {
-        if (this->*editing.key == key)
-            action = editing.cell.action;
-    }
-    Keypad::act(action, key->text(), this, m_object, m_lineEdit);
-}
-
-void vondKeypad::setUpEditingKeys(QGridLayout *grid)
-{
-    for (const EditingKey &editing : editingKeys)
-        this->*editing.key =
-            Keypad::addKey(this, grid, editing.cell, SLOT(slot_toolButton_clicked()));
+    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
+        Keypad::act(Keypad::actionOf(key, this, editingKeys), key->text(), this, m_object,
+                    m_lineEdit);
 }

@@ -8,7 +8,6 @@
 #include <QPointer>
 
 class KeyBoardLineEdit;
-class QGridLayout;
 class QLabel;
 class QToolButton;
 class QValidator;
@@ -103,8 +102,6 @@ private Q_SLOTS:
 private:
     enum { WordKeyCount = 22 };
     struct EditingKey;
-
-    void setUpEditingKeys(QGridLayout *grid);
 
     static vondKeypad *m_instance;
     static const EditingKey editingKeys[];

@@ -4,6 +4,7 @@
 
 #include <QPalette>
 #include <QWidget>
+#include <QtTest>
 
 // What panel type 13 makes of a widget's palette.
 
@@ -60,6 +61,22 @@ QPalette barePalette(QWidget *parent)
     Widget bare(parent);
     bare.ensurePolished();
     return bare.palette();
+}
+
+/* The columns "type" of a panel's construction, "typeLater", and whether it is "dark" then. */
+inline void addPanelTypeRows()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("typeLater");
+    QTest::addColumn<bool>("dark");
+
+    QTest::newRow("type 13") << 13 << 13 << true;
+    QTest::newRow("type 13, later 1") << 13 << 1 << true;
+    QTest::newRow("type 1") << 1 << 1 << false;
+    QTest::newRow("type 1, later 13") << 1 << 13 << false;
+    QTest::newRow("type 12") << 12 << 12 << false;
+    QTest::newRow("type 14") << 14 << 14 << false;
+    QTest::newRow("unknown type") << 0 << 0 << false;
 }
 
 } // namespace DarkScheme

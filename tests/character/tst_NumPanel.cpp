@@ -103,17 +103,7 @@ void tst_NumPanel::keysShareTheRow()
 
 void tst_NumPanel::coloursFollowThePanelTypeOfItsConstruction_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("typeLater");
-    QTest::addColumn<bool>("dark");
-
-    QTest::newRow("type 13") << 13 << 13 << true;
-    QTest::newRow("type 13, later 1") << 13 << 1 << true;
-    QTest::newRow("type 1") << 1 << 1 << false;
-    QTest::newRow("type 1, later 13") << 1 << 13 << false;
-    QTest::newRow("type 12") << 12 << 12 << false;
-    QTest::newRow("type 14") << 14 << 14 << false;
-    QTest::newRow("unknown type") << 0 << 0 << false;
+    DarkScheme::addPanelTypeRows();
 }
 
 void tst_NumPanel::coloursFollowThePanelTypeOfItsConstruction()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void initTestCase_data();
     void metaObjectHasExactlyThePromisedMembers();
     void theEditLineIsATypeOfItsOwn();
+    void theEditLineAnswersTheMouseAsAnyOther();
     void isAFramelessDialogWithTheFlagsGiven();
     void isAChildOfItsParentAndModalWhileItRuns();
 };
@@ -79,6 +80,22 @@ void tst_KeypadClass::theEditLineIsATypeOfItsOwn()
     QCOMPARE(meta->methodCount(), meta->methodOffset());
     QCOMPARE(meta->propertyCount(), meta->propertyOffset());
     QCOMPARE(int(stage.dialog()->findChildren<KeyBoardLineEdit *>().size()), 1);
+}
+
+void tst_KeypadClass::theEditLineAnswersTheMouseAsAnyOther()
+{
+    KeyBoardLineEdit line(nullptr);
+    line.setText(u("12345"));
+    line.selectAll();
+    line.show();
+    QTest::mouseClick(&line, Qt::LeftButton, Qt::NoModifier, QPoint(1, line.height() / 2));
+    QVERIFY(!line.hasSelectedText());
+    QCOMPARE(line.cursorPosition(), 0);
+
+    const QPoint end(line.width() - 2, line.height() / 2);
+    QTest::mousePress(&line, Qt::LeftButton, Qt::ShiftModifier, end);
+    QTest::mouseRelease(&line, Qt::LeftButton, Qt::ShiftModifier, end);
+    QCOMPARE(line.selectedText(), u("12345"));
 }
 
 void tst_KeypadClass::isAFramelessDialogWithTheFlagsGiven()
