@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QStringList>
 
 #include <cstdio>
 
