@@ -3,6 +3,7 @@
 #define KEYPADDRIVER_H
 
 #include "QtDifferences.h"
+#include "Text.h"
 
 #include <HMIDevice/HMIDeviceInfo.h>
 
@@ -18,12 +19,6 @@
 class KeyBoardLineEdit;
 
 // Works a keypad as an operator does, and sets the stage for it.
-
-/* A text of non-ASCII characters, the source files being UTF-8. */
-inline QString u(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 /* What covers \a view: its viewport's true place, shifted once more by the frame around it. */
 QRect rectCovering(const QGraphicsView *view);
