@@ -7,7 +7,6 @@
 #include "KeyBoardLineEdit.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
-#include "LabelMapping_p.h"
 #include "NumPanel.h"
 #include "PinyinDictionary_p.h"
 #include "QtDifferences_p.h"
@@ -20,38 +19,91 @@
 #include <QToolButton>
 #include <QVariant>
 
-static const int keypadPoints = 24;
-static const int gridColumns = 20;
-static const int letterSpan = 2; // columns
-static const int longestPinyin = 11;
+namespace {
 
-static const char lowerCaseKeys[] = "qwertyuiopasdfghjklzxcvbnm";
-static const char capitalKeys[] = "QWERTYUIOPASDFGHJKLZXCVBNM";
+const int gridColumns = 20;
+const int longestPinyin = 11; // letters
+
+const char capsLabel[] = "caps";      // while lower case is shown
+const char lowerCaseLabel[] = "CAPS"; // while capitals are shown
+const char chineseLabel[] = "CN";
+const char englishLabel[] = "EN";
+const char symbolsLabel[] = "*#";
+const char backLabel[] = "<<"; // from symbols
+const char delLabel[] = "Del";
+const char escLabel[] = "Esc";
+const char enterLabel[] = "Enter";
+const char spaceLabel[] = "Space";
+const char ampersandLabel[] = "&&"; // which a tool button shows as one ampersand
 
 // clang-format off
-// A tool button shows "&&" as one ampersand.
-static const char *const symbolKeys[] = {
-    "+", "-", "*", "/", "(", ")", "[", "]", "=", "%",
-    "!", "@", "#", "$", "?", ";", ":", "'", "\"",
-    "<", ">", "|", "&&", "\\", "{", "}"
+const Keypad::KeyCell keyCells[] = {
+    { "q",           3,  0, 2, Keypad::InsertLabel    },
+    { "w",           3,  2, 2, Keypad::InsertLabel    },
+    { "e",           3,  4, 2, Keypad::InsertLabel    },
+    { "r",           3,  6, 2, Keypad::InsertLabel    },
+    { "t",           3,  8, 2, Keypad::InsertLabel    },
+    { "y",           3, 10, 2, Keypad::InsertLabel    },
+    { "u",           3, 12, 2, Keypad::InsertLabel    },
+    { "i",           3, 14, 2, Keypad::InsertLabel    },
+    { "o",           3, 16, 2, Keypad::InsertLabel    },
+    { "p",           3, 18, 2, Keypad::InsertLabel    },
+
+    { "a",           4,  1, 2, Keypad::InsertLabel    },
+    { "s",           4,  3, 2, Keypad::InsertLabel    },
+    { "d",           4,  5, 2, Keypad::InsertLabel    },
+    { "f",           4,  7, 2, Keypad::InsertLabel    },
+    { "g",           4,  9, 2, Keypad::InsertLabel    },
+    { "h",           4, 11, 2, Keypad::InsertLabel    },
+    { "j",           4, 13, 2, Keypad::InsertLabel    },
+    { "k",           4, 15, 2, Keypad::InsertLabel    },
+    { "l",           4, 17, 2, Keypad::InsertLabel    },
+
+    { "z",           5,  3, 2, Keypad::InsertLabel    },
+    { "x",           5,  5, 2, Keypad::InsertLabel    },
+    { "c",           5,  7, 2, Keypad::InsertLabel    },
+    { "v",           5,  9, 2, Keypad::InsertLabel    },
+    { "b",           5, 11, 2, Keypad::InsertLabel    },
+    { "n",           5, 13, 2, Keypad::InsertLabel    },
+    { "m",           5, 15, 2, Keypad::InsertLabel    },
+
+    { capsLabel,     5,  0, 3, Keypad::SwitchCase     },
+    { spaceLabel,    6,  4, 4, Keypad::InsertSpace    },
+    { enterLabel,    6, 16, 4, Keypad::Confirm        },
+    { escLabel,      6, 14, 2, Keypad::Cancel         },
+    { delLabel,      5, 17, 3, Keypad::Backspace      },
+    { chineseLabel,  6, 10, 4, Keypad::SwitchLanguage },
+    { symbolsLabel,  6,  0, 2, Keypad::SwitchSymbols  },
+    { ",",           6,  2, 2, Keypad::InsertLabel    },
+    { ".",           6,  8, 2, Keypad::InsertLabel    }
 };
 
-static const struct
-{
-    int row, firstColumn, keys;
-} letterRows[] = {
-    { 3, 0, 10 },
-    { 4, 1,  9 },
-    { 5, 3,  7 }
+const char *const symbolKeys[] = {
+    "+", "-", "*", "/", "(", ")", "[", "]", "=", "%",
+    "!", "@", "#", "$", "?", ";", ":", "'", "\"",
+    "<", ">", "|", ampersandLabel, "\\", "{", "}"
 };
 // clang-format on
 
+const int letterCount = int(sizeof(symbolKeys) / sizeof(symbolKeys[0]));
+
+// The lower-case letters of the letter keys, which have the first cells.
+QString letters()
+{
+    QString all;
+    for (int i = 0; i < letterCount; ++i)
+        all += QLatin1String(keyCells[i].label);
+    return all;
+}
+
 // The hidden one goes first, so that the layout never has to find room for both.
-static void showPanel(QWidget *shown, QWidget *hidden)
+void showPanel(QWidget *shown, QWidget *hidden)
 {
     hidden->hide();
     shown->show();
 }
+
+} // namespace
 
 CharacterKeypad *CharacterKeypad::m_instance = nullptr;
 
@@ -68,13 +120,14 @@ CharacterKeypad::CharacterKeypad(QWidget *parent, Qt::WindowFlags flags)
     , m_mode(EnglishMode)
     , m_lastMode(EnglishMode)
 {
+    static_assert(letterCount == LetterCount, "a symbol for each letter key");
     drawWindow();
     m_signalMapper = new QSignalMapper(this);
     connect(m_signalMapper, HMI_MAPPED_STRING_SIGNAL, this, SLOT(sendContent(QString)));
     setUpEnglish();
     setUpConnect();
     openDb();
-    setFont(Keypad::font(keypadPoints));
+    setFont(Keypad::font(Keypad::manyKeysPoints));
 }
 
 CharacterKeypad::~CharacterKeypad()
@@ -84,7 +137,7 @@ CharacterKeypad::~CharacterKeypad()
 
 void CharacterKeypad::setObject(QObject *object)
 {
-    Keypad::bindTarget(object, &m_object, m_lineEdit, Keypad::KeepKeys);
+    Keypad::bindTarget(object, &m_object, this, m_lineEdit, Keypad::KeepKeys);
 }
 
 void CharacterKeypad::setMaxLength(int length)
@@ -110,7 +163,7 @@ void CharacterKeypad::setText(const QString &text)
 void CharacterKeypad::keyPressEvent(QKeyEvent *event)
 {
     if (Keypad::isConfirmKey(event->key()))
-        sendContent(QLatin1String("Enter"));
+        sendContent(QLatin1String(enterLabel));
     else if (Keypad::closeForApplication(this, event->key()))
         Q_EMIT signal_kTypeKeyPressed(event->key());
     else
@@ -119,11 +172,8 @@ void CharacterKeypad::keyPressEvent(QKeyEvent *event)
 
 void CharacterKeypad::showEvent(QShowEvent *event)
 {
-    const QGraphicsView *view = HMIDeviceInfo::graphicsView();
-    if (!view)
-        return;
-    setGeometry(Keypad::coveredRect(view));
-    QDialog::showEvent(event);
+    if (Keypad::coverView(this))
+        QDialog::showEvent(event);
 }
 
 void CharacterKeypad::sendContent(const QString &text)
@@ -151,7 +201,7 @@ void CharacterKeypad::drawWindow()
 {
     Keypad::colourDialog(this);
     QGridLayout *grid = new QGridLayout(this);
-    Keypad::setUpLayout(grid, 1);
+    Keypad::setUpLayout(grid, Keypad::keySpacing);
     m_lineEdit = Keypad::createEditLine(this);
     m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_chnPanel = new ChnPanel(this);
@@ -159,62 +209,33 @@ void CharacterKeypad::drawWindow()
     grid->addWidget(m_lineEdit, 0, 0, 1, gridColumns);
     grid->addWidget(m_chnPanel, 1, 0, 1, gridColumns);
     grid->addWidget(m_numPanel, 2, 0, 1, gridColumns);
-    drawLetterKeys(grid);
-    drawFunctionKeys(grid);
-}
-
-void CharacterKeypad::drawLetterKeys(QGridLayout *grid)
-{
-    QToolButton **key = m_letterKeys;
-    for (const auto &row : letterRows) {
-        for (int i = 0; i < row.keys; ++i, ++key) {
-            *key = Keypad::createKey(this, QString());
-            grid->addWidget(*key, row.row, row.firstColumn + letterSpan * i, 1, letterSpan);
-        }
-    }
-}
-
-void CharacterKeypad::drawFunctionKeys(QGridLayout *grid)
-{
-    // clang-format off
-    static const struct
-    {
-        QToolButton *CharacterKeypad::*key;
-        const char *label;
-        int row, column, columnSpan;
-    } functionKeys[] = {
-        { &CharacterKeypad::m_modeKey,     "",      5,  0, 3 },
-        { &CharacterKeypad::m_spaceKey,    "Space", 6,  4, 4 },
-        { &CharacterKeypad::m_enterKey,    "Enter", 6, 16, 4 },
-        { &CharacterKeypad::m_escKey,      "Esc",   6, 14, 2 },
-        { &CharacterKeypad::m_delKey,      "Del",   5, 17, 3 },
-        { &CharacterKeypad::m_languageKey, "",      6, 10, 4 },
-        { &CharacterKeypad::m_symbolKey,   "",      6,  0, 2 },
-        { &CharacterKeypad::m_commaKey,    ",",     6,  2, 2 },
-        { &CharacterKeypad::m_periodKey,   ".",     6,  8, 2 }
-    };
-    // clang-format on
-    for (const auto &cell : functionKeys) {
-        this->*cell.key = Keypad::createKey(this, QLatin1String(cell.label));
-        grid->addWidget(this->*cell.key, cell.row, cell.column, 1, cell.columnSpan);
-    }
+    Keypad::addKeys(this, grid, keyCells, keyMembers());
 }
 
 void CharacterKeypad::setUpMapper()
 {
     const QList<QWidget *> keys = mappedKeys();
-    for (int i = 0; i < keys.size(); ++i)
-        mapKey(m_signalMapper, keys.at(i), keys.at(i)->property("text").toString());
+    for (QWidget *key : keys)
+        Keypad::mapKey(m_signalMapper, key, key->property("text").toString());
 }
 
 void CharacterKeypad::setUpConnect()
 {
     const QList<QWidget *> keys = mappedKeys();
-    for (int i = 0; i < keys.size(); ++i)
-        connect(keys.at(i), SIGNAL(clicked()), m_signalMapper, SLOT(map()));
+    for (QWidget *key : keys)
+        connect(key, SIGNAL(clicked()), m_signalMapper, SLOT(map()));
 }
 
-QList<QWidget *> CharacterKeypad::mappedKeys() const
+QVector<QToolButton **> CharacterKeypad::keyMembers()
+{
+    QVector<QToolButton **> members;
+    for (QToolButton *&letter : m_letterKeys)
+        members << &letter;
+    return members << &m_modeKey << &m_spaceKey << &m_enterKey << &m_escKey << &m_delKey
+                   << &m_languageKey << &m_symbolKey << &m_commaKey << &m_periodKey;
+}
+
+QList<QWidget *> CharacterKeypad::mappedKeys()
 {
     QList<QWidget *> keys;
     for (short i = 0; QToolButton *digit = m_numPanel->getToolButton(i); ++i)
@@ -234,14 +255,14 @@ QList<QWidget *> CharacterKeypad::mappedKeys() const
 
 void CharacterKeypad::setUpEnglish()
 {
-    labelLetters(lowerCaseKeys, "caps", "CN");
+    labelLetters(letters(), capsLabel, chineseLabel);
     showPanel(m_numPanel, m_chnPanel);
     setUpMapper();
 }
 
 void CharacterKeypad::setUpEnglishCaps()
 {
-    labelLetters(capitalKeys, "CAPS", "CN");
+    labelLetters(letters().toUpper(), lowerCaseLabel, chineseLabel);
     showPanel(m_numPanel, m_chnPanel);
     setUpMapper();
 }
@@ -252,7 +273,7 @@ void CharacterKeypad::setUpSpecialSymbols()
         m_letterKeys[i]->setText(QLatin1String(symbolKeys[i]));
     m_modeKey->setText(QLatin1String("~"));
     m_modeKey->setEnabled(true);
-    m_languageKey->setText(QLatin1String("<<"));
+    m_languageKey->setText(QLatin1String(backLabel));
     m_symbolKey->setText(QLatin1String("_"));
     showPanel(m_numPanel, m_chnPanel);
     setUpMapper();
@@ -260,20 +281,20 @@ void CharacterKeypad::setUpSpecialSymbols()
 
 void CharacterKeypad::setUpChanese()
 {
-    labelLetters(lowerCaseKeys, "", "EN");
+    labelLetters(letters(), "", englishLabel);
     showPanel(m_chnPanel, m_numPanel);
     setUpMapper();
 }
 
-void CharacterKeypad::labelLetters(const char *letters, const char *modeLabel,
+void CharacterKeypad::labelLetters(const QString &letters, const char *modeLabel,
                                    const char *languageLabel)
 {
     for (int i = 0; i < LetterCount; ++i)
-        m_letterKeys[i]->setText(QString(QLatin1Char(letters[i])));
+        m_letterKeys[i]->setText(letters.mid(i, 1));
     m_modeKey->setText(QLatin1String(modeLabel));
     m_modeKey->setEnabled(*modeLabel != '\0');
     m_languageKey->setText(QLatin1String(languageLabel));
-    m_symbolKey->setText(QLatin1String("*#"));
+    m_symbolKey->setText(QLatin1String(symbolsLabel));
     m_symbolKey->setEnabled(true);
 }
 
@@ -287,15 +308,15 @@ void CharacterKeypad::setModes(Mode last, Mode current)
 
 void CharacterKeypad::sendEnContent(const QString &text)
 {
-    if (text == QLatin1String("CN")) {
+    if (text == QLatin1String(chineseLabel)) {
         setUpChanese();
         setModes(EnglishMode, ChineseMode);
-    } else if (text == QLatin1String("*#")) {
+    } else if (text == QLatin1String(symbolsLabel)) {
         setUpSpecialSymbols();
         setModes(EnglishMode, SymbolMode);
-    } else if (text == QLatin1String("caps")) {
+    } else if (text == QLatin1String(capsLabel)) {
         setUpEnglishCaps();
-    } else if (text == QLatin1String("CAPS")) {
+    } else if (text == QLatin1String(lowerCaseLabel)) {
         setUpEnglish();
     } else {
         editText(text);
@@ -304,8 +325,8 @@ void CharacterKeypad::sendEnContent(const QString &text)
 
 void CharacterKeypad::sendSpecialSymbols(const QString &text)
 {
-    if (text != QLatin1String("<<")) {
-        editText(text == QLatin1String("&&") ? QString(QLatin1Char('&')) : text);
+    if (text != QLatin1String(backLabel)) {
+        editText(text == QLatin1String(ampersandLabel) ? QString(QLatin1Char('&')) : text);
     } else if (m_lastMode == EnglishMode) {
         setUpEnglish();
         setModes(SymbolMode, EnglishMode);
@@ -317,19 +338,19 @@ void CharacterKeypad::sendSpecialSymbols(const QString &text)
 
 void CharacterKeypad::sendChnContent(const QString &text)
 {
-    if (text == QLatin1String("EN")) {
+    if (text == QLatin1String(englishLabel)) {
         clearComposition();
         setUpEnglish();
         setModes(ChineseMode, EnglishMode);
-    } else if (text == QLatin1String("*#")) {
+    } else if (text == QLatin1String(symbolsLabel)) {
         clearComposition();
         setUpSpecialSymbols();
         setModes(ChineseMode, SymbolMode);
-    } else if (text == QLatin1String("Del") && !pinyin().isEmpty()) {
+    } else if (text == QLatin1String(delLabel) && !pinyin().isEmpty()) {
         compose(pinyin().left(pinyin().length() - 1));
-    } else if (text == QLatin1String("Del") || text == QLatin1String("Space")) {
+    } else if (text == QLatin1String(delLabel) || text == QLatin1String(spaceLabel)) {
         editText(text);
-    } else if (QString::fromLatin1(lowerCaseKeys).contains(text)) {
+    } else if (letters().contains(text)) {
         if (pinyin().length() < longestPinyin)
             compose(pinyin() + text);
     } else if (text == QLatin1String(">")) {
@@ -344,13 +365,13 @@ void CharacterKeypad::sendChnContent(const QString &text)
 
 void CharacterKeypad::editText(const QString &key)
 {
-    if (key == QLatin1String("Del"))
+    if (key == QLatin1String(delLabel))
         deleteCharacter();
-    else if (key == QLatin1String("Esc"))
+    else if (key == QLatin1String(escLabel))
         reject();
-    else if (key == QLatin1String("Enter"))
+    else if (key == QLatin1String(enterLabel))
         Keypad::confirm(this, m_object, m_lineEdit);
-    else if (key == QLatin1String("Space"))
+    else if (key == QLatin1String(spaceLabel))
         m_lineEdit->insert(QString(QLatin1Char(' ')));
     else
         m_lineEdit->insert(key);

@@ -7,11 +7,11 @@
 #include <QDialog>
 #include <QPointer>
 #include <QStringList>
+#include <QVector>
 
 class ChnPanel;
 class KeyBoardLineEdit;
 class NumPanel;
-class QGridLayout;
 class QSignalMapper;
 class QSqlTableModel;
 class QToolButton;
@@ -27,8 +27,8 @@ class QValidator;
  * setText(), exec(). exec() returns QDialog::Accepted when the field was written, else
  * QDialog::Rejected. The keypad opens with the key set that it was left with.
  *
- * At every show it covers the viewport of HMIDeviceInfo::graphicsView(); without a view it keeps
- * its geometry. Return and Enter confirm, Escape cancels.
+ * At every show it covers the viewport of HMIDeviceInfo::graphicsView(); without a view it does not
+ * place itself. Return and Enter confirm, Escape cancels.
  *
  * Confirming writes what stands in the edit line, whether or not a validator accepts it as
  * complete. Without a target it does nothing, and the keypad stays open.
@@ -111,17 +111,16 @@ private:
     enum Mode { EnglishMode, SymbolMode, ChineseMode };
 
     void drawWindow();
-    void drawLetterKeys(QGridLayout *grid);
-    void drawFunctionKeys(QGridLayout *grid);
     void setUpMapper();
     void setUpConnect();
-    QList<QWidget *> mappedKeys() const;
+    QVector<QToolButton **> keyMembers();
+    QList<QWidget *> mappedKeys();
 
     void setUpEnglish();
     void setUpEnglishCaps();
     void setUpSpecialSymbols();
     void setUpChanese();
-    void labelLetters(const char *letters, const char *modeLabel, const char *languageLabel);
+    void labelLetters(const QString &letters, const char *modeLabel, const char *languageLabel);
     void setModes(Mode last, Mode current);
 
     void sendEnContent(const QString &text);
@@ -155,8 +154,8 @@ private:
     QSignalMapper *m_signalMapper;
     QStringList m_candidates;
     QSqlTableModel *m_dictionary;
-    int m_mode;
-    int m_lastMode;
+    Mode m_mode;
+    Mode m_lastMode; // the mode that symbols return to; SymbolMode when they have returned
 };
 
 #endif

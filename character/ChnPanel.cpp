@@ -2,15 +2,18 @@
 #include "ChnPanel.h"
 
 #include "ClickLabel.h"
-#include "FittedText_p.h"
+#include "FittedLabel_p.h"
+#include "KeyButton_p.h"
 #include "KeypadLook_p.h"
-#include "LabelMapping_p.h"
+#include "KeypadRules_p.h"
 
 #include <QHBoxLayout>
 
+namespace {
+
 // What stays readable where the panel is short of room, in heights of a line.
-static const int pinyinMinimumWidth = 2;
-static const int candidateMinimumWidth = 1;
+const int pinyinMinimumWidth = 2;
+const int candidateMinimumWidth = 1;
 
 // Candidates of any length leave the paging buttons their place.
 class PagingButton : public Keypad::KeyButton
@@ -21,7 +24,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
-static QToolButton *createPagingButton(QWidget *parent, const QString &label)
+QToolButton *createPagingButton(QWidget *parent, const QString &label)
 {
     QToolButton *button = new PagingButton(parent);
     Keypad::setUpKey(button, label);
@@ -30,7 +33,7 @@ static QToolButton *createPagingButton(QWidget *parent, const QString &label)
 
 // A candidate is shown as it will be inserted, whatever marks the dictionary has in it.
 template <class Label>
-static Label *createLabel(QWidget *parent, int minimumWidthInLines)
+Label *createLabel(QWidget *parent, int minimumWidthInLines)
 {
     Label *label = new Keypad::FittedLabel<Label>(QString(), parent, minimumWidthInLines);
     label->setTextFormat(Qt::PlainText);
@@ -38,6 +41,8 @@ static Label *createLabel(QWidget *parent, int minimumWidthInLines)
     Keypad::colourLabel(label);
     return label;
 }
+
+} // namespace
 
 ChnPanel::ChnPanel(QWidget *parent)
     : QWidget(parent, Qt::FramelessWindowHint)
@@ -127,5 +132,5 @@ void ChnPanel::showPage(int page, const QStringList &list, QSignalMapper *mapper
 void ChnPanel::showCandidate(int index, const QString &text, QSignalMapper *mapper)
 {
     m_candidateLabels[index]->setText(text);
-    mapKey(mapper, m_candidateLabels[index], text);
+    Keypad::mapKey(mapper, m_candidateLabels[index], text);
 }

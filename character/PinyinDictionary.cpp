@@ -73,6 +73,8 @@ QStringList candidates(QSqlTableModel *model, const QString &pinyin)
         model->setTable(QLatin1String(tableName));
         query(model, filter);
     }
+    // What setFilter() or select() has fetched, at most 256 rows with SQLite: more are never asked
+    // for, so that a key without end costs no more than a long one.
     const int rows = model->rowCount();
     for (int row = 0; row < rows; ++row)
         list.append(model->data(model->index(row, candidateColumn)).toString());

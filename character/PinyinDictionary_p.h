@@ -12,13 +12,13 @@ class QSqlTableModel;
 
 namespace PinyinDictionary {
 
-/* Opens the file; the model is a child of \a parent, or null when there is nothing to open. */
+// Opens the file; the model is a child of \a parent, or null when there is nothing to open.
 QSqlTableModel *open(QObject *parent);
 
-/* Deletes \a model, which may be null, and removes its database connection. */
+// Deletes \a model, which may be null, and removes its database connection.
 void close(QSqlTableModel *model);
 
-/* What \a model, which may be null, has for \a pinyin (lower-case letters only), best first. */
+// What \a model, which may be null, has for \a pinyin (lower-case letters only), best first.
 QStringList candidates(QSqlTableModel *model, const QString &pinyin);
 
 } // namespace PinyinDictionary

@@ -73,8 +73,7 @@ public:
      * viewport, or, as the G-code keypad does, over their target by way of it.
      *
      * Not owned and not watched: keep the view alive for as long as keypads are used. Null is
-     * accepted: a keypad built then is a top-level window, and most keypads stay where they are
-     * when shown, but the axis keypad, and the G-code keypad for a widget, need a view to be shown.
+     * accepted: a keypad built then is a top-level window, and one shown then stays where it is.
      */
     static void setGraphicsView(QGraphicsView *view);
 

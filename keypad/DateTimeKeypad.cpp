@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DateTimeKeypad.h"
 
-#include "FittedText_p.h"
+#include "FittedLabel_p.h"
 #include "HMIDeviceInfo.h"
 #include "KeyBoardLineEdit.h"
-#include "KeyGrid_p.h"
+#include "KeyButton_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
 
@@ -18,20 +18,22 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-static const int dateLength = 10;
-static const int timeLength = 8;
-static const char dateFormat[] = "yyyy-MM-dd";
-static const char timeFormat[] = "hh:mm:ss";
-static const char dateTimeFormat[] = "yyyy-MM-dd hh:mm:ss";
+#include <algorithm>
 
-static const int keypadPoints = 24;
-static const int keySpacing = 1; // pixels
-static const QRgb white = qRgb(255, 255, 255);
-static const QRgb invalidColour = qRgb(255, 153, 51); // orange
+namespace {
+
+const int dateLength = 10;
+const int timeLength = 8;
+const char dateFormat[] = "yyyy-MM-dd";
+const char timeFormat[] = "hh:mm:ss";
+const char dateTimeFormat[] = "yyyy-MM-dd hh:mm:ss";
+
+const QRgb white = qRgb(255, 255, 255);
+const QRgb invalidColour = qRgb(255, 153, 51); // orange
 
 // clang-format off
 // The hour reaches 24, which composes no time: the display is then empty.
-static const struct
+const struct
 {
     const char *label;
     int row, column; // of the label; the spin box follows it
@@ -45,7 +47,7 @@ static const struct
     { QT_TRANSLATE_NOOP("DateTimeKeypad", "second:"), 2, 2,    0,   59 }
 };
 
-static const char *const digitLabels[] = {
+const char *const digitLabels[] = {
     QT_TRANSLATE_NOOP("DateTimeKeypad", "1"), QT_TRANSLATE_NOOP("DateTimeKeypad", "2"),
     QT_TRANSLATE_NOOP("DateTimeKeypad", "3"), QT_TRANSLATE_NOOP("DateTimeKeypad", "4"),
     QT_TRANSLATE_NOOP("DateTimeKeypad", "5"), QT_TRANSLATE_NOOP("DateTimeKeypad", "6"),
@@ -54,28 +56,28 @@ static const char *const digitLabels[] = {
 };
 // clang-format on
 
-static QDateTime fields(const QDate &date, const QTime &time)
+QDateTime joined(const QDate &date, const QTime &time)
 {
     return date.isValid() && time.isValid() ? QDateTime(date, time, Qt::UTC) : QDateTime();
 }
 
 // Date and time are read apart and joined in UTC: as one local time, an hour that a change to
 // summer time skips could be neither read nor shown.
-static QDateTime parsed(const QString &text)
+QDateTime parsed(const QString &text)
 {
     const QString ofDate = QLatin1String(dateFormat);
     const QString ofTime = QLatin1String(timeFormat);
     if (text.length() == dateLength)
-        return fields(QDate::fromString(text, ofDate), QTime(0, 0));
+        return joined(QDate::fromString(text, ofDate), QTime(0, 0));
     if (text.length() == timeLength)
-        return fields(QDate(1900, 1, 1), QTime::fromString(text, ofTime));
+        return joined(QDate(1900, 1, 1), QTime::fromString(text, ofTime));
     if (text.mid(dateLength, 1) != QLatin1String(" "))
         return QDateTime();
-    return fields(QDate::fromString(text.left(dateLength), ofDate),
+    return joined(QDate::fromString(text.left(dateLength), ofDate),
                   QTime::fromString(text.mid(dateLength + 1), ofTime));
 }
 
-static int daysIn(int year, int month)
+int daysIn(int year, int month)
 {
     switch (month) {
     case 2:
@@ -90,11 +92,13 @@ static int daysIn(int year, int month)
     }
 }
 
-static void setActiveBase(QWidget *field, QPalette palette, const QColor &colour)
+void setActiveBase(QWidget *field, QPalette palette, const QColor &colour)
 {
     palette.setColor(QPalette::Active, QPalette::Base, colour);
     field->setPalette(palette);
 }
+
+} // namespace
 
 DateTimeKeypad *DateTimeKeypad::m_instance = nullptr;
 
@@ -114,18 +118,18 @@ DateTimeKeypad::DateTimeKeypad(QWidget *parent, Qt::WindowFlags flags)
     setUpButtons();
 
     QVBoxLayout *layout = new QVBoxLayout(this);
-    Keypad::setUpLayout(layout, keySpacing);
+    Keypad::setUpLayout(layout, Keypad::keySpacing);
     layout->addLayout(displayAndDigits(), 2);
     layout->addLayout(labelledFields(), 3);
     layout->addLayout(commands(), 1);
-    setFont(Keypad::font(keypadPoints));
+    setFont(Keypad::font(Keypad::manyKeysPoints));
 }
 
 DateTimeKeypad::~DateTimeKeypad() = default;
 
 void DateTimeKeypad::setObject(QObject *object)
 {
-    Keypad::bindTarget(object, &m_object, m_lineEdit, Keypad::KeepKeys);
+    Keypad::bindTarget(object, &m_object, this, m_lineEdit, Keypad::KeepKeys);
 }
 
 void DateTimeKeypad::setMaxLength(int length)
@@ -180,11 +184,8 @@ QSpinBox *DateTimeKeypad::focusSpinBox()
 
 void DateTimeKeypad::showEvent(QShowEvent *event)
 {
-    const QGraphicsView *view = HMIDeviceInfo::graphicsView();
-    if (!view)
-        return;
-    setGeometry(Keypad::coveredRect(view));
-    QDialog::showEvent(event);
+    if (Keypad::coverView(this))
+        QDialog::showEvent(event);
 }
 
 void DateTimeKeypad::slot_toolButtonClicked()
@@ -205,8 +206,11 @@ void DateTimeKeypad::slot_valueChanged(int)
     if (!sender())
         return;
     setSpinBoxDayRange(m_fields[Year]->value(), m_fields[Month]->value());
+    const QString text = composedText();
     m_lineEdit->clear();
-    m_lineEdit->setText(composedText());
+    // A slot on textChanged() may have set a field meanwhile, whose value is shown already.
+    if (composedText() == text)
+        m_lineEdit->setText(text);
 }
 
 void DateTimeKeypad::slot_editingFinished()
@@ -259,7 +263,7 @@ QToolButton *DateTimeKeypad::createButton(const QString &label)
 QLayout *DateTimeKeypad::displayAndDigits()
 {
     QGridLayout *grid = new QGridLayout;
-    Keypad::setUpLayout(grid, keySpacing);
+    grid->setSpacing(Keypad::keySpacing);
     grid->addWidget(m_lineEdit, 0, 0, 1, DigitCount);
     for (int i = 0; i < DigitCount; ++i)
         grid->addWidget(m_digitButtons[i], 1, i);
@@ -269,7 +273,7 @@ QLayout *DateTimeKeypad::displayAndDigits()
 QLayout *DateTimeKeypad::labelledFields()
 {
     QGridLayout *grid = new QGridLayout;
-    Keypad::setUpLayout(grid, keySpacing);
+    grid->setSpacing(Keypad::keySpacing);
     for (int i = 0; i < FieldCount; ++i) {
         QLabel *label = new Keypad::FittedLabel<QLabel>(tr(fieldCells[i].label), this, 0);
         label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
@@ -282,7 +286,7 @@ QLayout *DateTimeKeypad::labelledFields()
 QLayout *DateTimeKeypad::commands()
 {
     QHBoxLayout *row = new QHBoxLayout;
-    Keypad::setUpLayout(row, keySpacing);
+    row->setSpacing(Keypad::keySpacing);
     row->addWidget(m_plusButton);
     row->addWidget(m_minusButton);
     row->addWidget(m_deleteButton);
@@ -314,7 +318,8 @@ void DateTimeKeypad::edit(QSpinBox *field, const QObject *button)
     } else if (button == m_minusButton) {
         field->stepDown();
     } else {
-        const int digit = (Keypad::indexOfKey(button, m_digitButtons, DigitCount) + 1) % 10;
+        QToolButton *const *place = std::find(m_digitButtons, m_digitButtons + DigitCount, button);
+        const int digit = int(place - m_digitButtons + 1) % 10;
         pressKey(field, Qt::Key_0 + digit, QString::number(digit));
     }
     setActiveBase(field, field->palette(), QColor(isValid(field) ? white : invalidColour));

@@ -21,8 +21,8 @@ class QValidator;
  * setObject(), setMaxLength(), which chooses the format, setText(), exec(). exec() returns
  * QDialog::Accepted when the field was written, else QDialog::Rejected.
  *
- * At every show it covers the viewport of HMIDeviceInfo::graphicsView(); without a view it keeps
- * its geometry. Hard keys go to the focused spin box; Escape cancels. All texts are translated in
+ * At every show it covers the viewport of HMIDeviceInfo::graphicsView(); without a view it does not
+ * place itself. Hard keys go to the focused spin box; Escape cancels. All texts are translated in
  * the context "DateTimeKeypad" when the keypad is built, so install a translator before that.
  *
  * The year goes from 1600 to 9999, the hour to 24: that is no time of day, and the display is then

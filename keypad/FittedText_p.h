@@ -2,66 +2,22 @@
 #ifndef FITTEDTEXT_P_H
 #define FITTEDTEXT_P_H
 
-#include <QLabel>
-#include <QToolButton>
+#include <QFont>
+#include <QSize>
+#include <QString>
 
-// Keys and labels whose place does not depend on what they show. A layout may make them as small
-// as the panel requires; a text that would be clipped is drawn smaller instead.
+// Texts that are drawn smaller where they would be clipped otherwise.
 
 namespace Keypad {
 
-class KeyButton : public QToolButton
-{
-public:
-    explicit KeyButton(QWidget *parent);
+// A dictionary may hold any text; measuring and drawing stop where no panel is wide enough.
+QString measurable(const QString &text);
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+// The pixels that \a text needs in \a font; \a flags are Qt::TextFlag values.
+QSize sizeOf(const QString &text, const QFont &font, int flags);
 
-protected:
-    void paintEvent(QPaintEvent *event) override;
-};
-
-/* The pixels that the text of \a label needs in width; bounded, as it may be of any length. */
-int textWidth(const QLabel *label);
-
-/* Draws the text of \a label smaller and returns true if it would be clipped otherwise. */
-bool paintFitted(QLabel *label);
-
-/* A label one line high that asks for the width of its text, and makes do with less. */
-template <class Label>
-class FittedLabel : public Label
-{
-public:
-    /* A layout that is short of room leaves the label \a minimumWidthInLines heights of a line. */
-    FittedLabel(const QString &text, QWidget *parent, int minimumWidthInLines)
-        : Label(text, parent)
-        , m_minimumWidthInLines(minimumWidthInLines)
-    {
-    }
-
-    QSize sizeHint() const override
-    {
-        const QSize minimum = minimumSizeHint();
-        return QSize(qMax(minimum.width(), textWidth(this)), minimum.height());
-    }
-
-    QSize minimumSizeHint() const override
-    {
-        const int lineHeight = this->fontMetrics().height();
-        return QSize(m_minimumWidthInLines * lineHeight, lineHeight);
-    }
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        if (!paintFitted(this))
-            Label::paintEvent(event);
-    }
-
-private:
-    int m_minimumWidthInLines;
-};
+// \a font, or as much smaller a one as \a text needs to be drawn inside \a room.
+QFont fittedFont(const QFont &font, const QString &text, int flags, const QSize &room);
 
 } // namespace Keypad
 

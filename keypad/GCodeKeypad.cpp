@@ -3,7 +3,6 @@
 
 #include "HMIDeviceInfo.h"
 #include "KeyBoardLineEdit.h"
-#include "KeyGrid_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
 #include "QtDifferences_p.h"
@@ -14,43 +13,74 @@
 
 #define SPACE_LABEL HMI_CODEC_LITERAL("\xA9\xB8\xA9\xA4\xA9\xA4\xA9\xBC", "└──┘")
 
-// Four rows of ten keys.
-static const char charLabels[] = "IJKLMFG789"
-                                 "HRTPUAX456"
-                                 "ODEQVBY123"
-                                 ",$NSWCZ0.-";
+namespace {
 
-static const int charKeySpan = 2; // columns
+// clang-format off
+const Keypad::KeyCell keyCells[] = {
+    { "I",         0,  0, 2, Keypad::InsertLabel },
+    { "J",         0,  2, 2, Keypad::InsertLabel },
+    { "K",         0,  4, 2, Keypad::InsertLabel },
+    { "L",         0,  6, 2, Keypad::InsertLabel },
+    { "M",         0,  8, 2, Keypad::InsertLabel },
+    { "F",         0, 10, 2, Keypad::InsertLabel },
+    { "G",         0, 12, 2, Keypad::InsertLabel },
+    { "7",         0, 14, 2, Keypad::InsertLabel },
+    { "8",         0, 16, 2, Keypad::InsertLabel },
+    { "9",         0, 18, 2, Keypad::InsertLabel },
 
-/*
- * Where a keypad over \a target lies, in global coordinates. The rectangle that counts from the
- * target's parent is mapped by the target itself: existing screens are laid out for that.
- */
-static QRect coveredRect(const QWidget *target)
+    { "H",         1,  0, 2, Keypad::InsertLabel },
+    { "R",         1,  2, 2, Keypad::InsertLabel },
+    { "T",         1,  4, 2, Keypad::InsertLabel },
+    { "P",         1,  6, 2, Keypad::InsertLabel },
+    { "U",         1,  8, 2, Keypad::InsertLabel },
+    { "A",         1, 10, 2, Keypad::InsertLabel },
+    { "X",         1, 12, 2, Keypad::InsertLabel },
+    { "4",         1, 14, 2, Keypad::InsertLabel },
+    { "5",         1, 16, 2, Keypad::InsertLabel },
+    { "6",         1, 18, 2, Keypad::InsertLabel },
+
+    { "O",         2,  0, 2, Keypad::InsertLabel },
+    { "D",         2,  2, 2, Keypad::InsertLabel },
+    { "E",         2,  4, 2, Keypad::InsertLabel },
+    { "Q",         2,  6, 2, Keypad::InsertLabel },
+    { "V",         2,  8, 2, Keypad::InsertLabel },
+    { "B",         2, 10, 2, Keypad::InsertLabel },
+    { "Y",         2, 12, 2, Keypad::InsertLabel },
+    { "1",         2, 14, 2, Keypad::InsertLabel },
+    { "2",         2, 16, 2, Keypad::InsertLabel },
+    { "3",         2, 18, 2, Keypad::InsertLabel },
+
+    { ",",         3,  0, 2, Keypad::InsertLabel },
+    { "$",         3,  2, 2, Keypad::InsertLabel },
+    { "N",         3,  4, 2, Keypad::InsertLabel },
+    { "S",         3,  6, 2, Keypad::InsertLabel },
+    { "W",         3,  8, 2, Keypad::InsertLabel },
+    { "C",         3, 10, 2, Keypad::InsertLabel },
+    { "Z",         3, 12, 2, Keypad::InsertLabel },
+    { "0",         3, 14, 2, Keypad::InsertLabel },
+    { ".",         3, 16, 2, Keypad::InsertLabel },
+    { "-",         3, 18, 2, Keypad::InsertLabel },
+
+    { "ESC",       4,  0, 3, Keypad::Cancel      },
+    { "BSP",       4, 12, 4, Keypad::Backspace   },
+    { "←",         4,  3, 2, Keypad::MoveLeft    },
+    { "→",         4,  5, 2, Keypad::MoveRight   },
+    { "Enter",     4, 16, 4, Keypad::Confirm     },
+    { SPACE_LABEL, 4,  7, 5, Keypad::InsertSpace }
+};
+// clang-format on
+
+// Where a keypad over \a target lies, in global coordinates. The rectangle that counts from the
+// target's parent is mapped by the target itself: existing screens are laid out for that.
+QRect coveredRect(const QWidget *target, const QWidget *viewport)
 {
     QRect rect = target->geometry();
     if (target->parentWidget())
-        rect = QRect(target->mapToGlobal(rect.topLeft()), target->mapToGlobal(rect.bottomRight()));
-    const QWidget *viewport = HMIDeviceInfo::graphicsView()->viewport();
-    return QRect(viewport->mapToGlobal(rect.topLeft()), viewport->mapToGlobal(rect.bottomRight()));
+        rect = Keypad::mappedToGlobal(target, rect);
+    return Keypad::mappedToGlobal(viewport, rect);
 }
 
-struct GCodeKeypad::EditingKey
-{
-    QToolButton *GCodeKeypad::*key;
-    Keypad::KeyCell cell;
-};
-
-// clang-format off
-const GCodeKeypad::EditingKey GCodeKeypad::editingKeys[] = {
-    { &GCodeKeypad::m_escKey,   { "ESC",       4,  0, 3, Keypad::Cancel      } },
-    { &GCodeKeypad::m_bspKey,   { "BSP",       4, 12, 4, Keypad::Backspace   } },
-    { &GCodeKeypad::m_leftKey,  { "←",         4,  3, 2, Keypad::MoveLeft    } },
-    { &GCodeKeypad::m_rightKey, { "→",         4,  5, 2, Keypad::MoveRight   } },
-    { &GCodeKeypad::m_enterKey, { "Enter",     4, 16, 4, Keypad::Confirm     } },
-    { &GCodeKeypad::m_spaceKey, { SPACE_LABEL, 4,  7, 5, Keypad::InsertSpace } }
-};
-// clang-format on
+} // namespace
 
 GCodeKeypad *GCodeKeypad::m_instance = nullptr;
 
@@ -64,17 +94,14 @@ GCodeKeypad *GCodeKeypad::instance()
 GCodeKeypad::GCodeKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
-    QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
-    setUpCharKeys(grid);
-    Keypad::addNamedKeys(this, grid, editingKeys, SLOT(slot_toolButton_clicked()));
-    Keypad::finishFixedFace(this, m_tipLabel);
+    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, keyCells, keyMembers());
 }
 
 GCodeKeypad::~GCodeKeypad() = default;
 
 void GCodeKeypad::setObject(QObject *object)
 {
-    Keypad::bindTarget(object, &m_object, m_lineEdit, Keypad::EnableKeys);
+    Keypad::bindTarget(object, &m_object, this, m_lineEdit, Keypad::EnableKeys);
 }
 
 void GCodeKeypad::setEditMode(int)
@@ -122,8 +149,10 @@ void GCodeKeypad::keyPressEvent(QKeyEvent *event)
 
 void GCodeKeypad::showEvent(QShowEvent *event)
 {
-    if (const QWidget *target = qobject_cast<QWidget *>(m_object.data())) {
-        const QRect rect = coveredRect(target);
+    const QWidget *target = qobject_cast<QWidget *>(m_object.data());
+    const QGraphicsView *view = HMIDeviceInfo::graphicsView();
+    if (target && view) {
+        const QRect rect = coveredRect(target, view->viewport());
         setFixedSize(rect.size());
         setGeometry(rect);
     }
@@ -132,19 +161,16 @@ void GCodeKeypad::showEvent(QShowEvent *event)
 
 void GCodeKeypad::slot_toolButton_clicked()
 {
-    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
-        Keypad::act(Keypad::actionOf(key, this, editingKeys), key->text(), this, m_object,
-                    m_lineEdit);
+    Keypad::press(sender(), keyCells, keyMembers(), this, m_object, m_lineEdit);
 }
 
-void GCodeKeypad::setUpCharKeys(QGridLayout *grid)
+QVector<QToolButton **> GCodeKeypad::keyMembers()
 {
-    for (int row = 0; row < CharRows; ++row) {
-        for (int i = 0; i < CharColumns; ++i) {
-            const char label[] = { charLabels[CharColumns * row + i], '\0' };
-            const Keypad::KeyCell cell = { label, row, charKeySpan * i, charKeySpan,
-                                           Keypad::InsertLabel };
-            m_charKeys[row][i] = Keypad::addKey(this, grid, cell, SLOT(slot_toolButton_clicked()));
-        }
+    QVector<QToolButton **> members;
+    for (auto &row : m_charKeys) {
+        for (QToolButton *&key : row)
+            members << &key;
     }
+    return members << &m_escKey << &m_bspKey << &m_leftKey << &m_rightKey << &m_enterKey
+                   << &m_spaceKey;
 }

@@ -6,9 +6,9 @@
 
 #include <QDialog>
 #include <QPointer>
+#include <QVector>
 
 class KeyBoardLineEdit;
-class QGridLayout;
 class QLabel;
 class QToolButton;
 class QValidator;
@@ -24,11 +24,10 @@ class QValidator;
  *
  * At every show it lays itself over its target rather than over the application's view, with a
  * fixed size. The target's geometry() is mapped to global coordinates by the target itself (unless
- * it has no parent) and then by the viewport of HMIDeviceInfo::graphicsView(), which must be set
- * when the target is a widget: the keypad does not look, and showing it without one crashes. The
- * offset of a target inside its parent thus counts twice; a target whose top-left corner is that of
- * its parent is covered exactly. A target that is not a widget leaves place and size as they are,
- * 320x240 pixels at first.
+ * it has no parent) and then by the viewport of HMIDeviceInfo::graphicsView(). The offset of a
+ * target inside its parent thus counts twice; a target whose top-left corner is that of its parent
+ * is covered exactly. Without a registered view, or for a target that is not a widget, place and
+ * size stay as they are: at first 320x240 pixels where Qt puts a dialog that nobody has moved.
  *
  * Return and Enter confirm, Escape cancels.
  *
@@ -108,12 +107,10 @@ private Q_SLOTS:
 
 private:
     enum { CharRows = 4, CharColumns = 10 };
-    struct EditingKey;
 
-    void setUpCharKeys(QGridLayout *grid);
+    QVector<QToolButton **> keyMembers();
 
     static GCodeKeypad *m_instance;
-    static const EditingKey editingKeys[];
 
     QPointer<QObject> m_object;
     QLabel *m_tipLabel;

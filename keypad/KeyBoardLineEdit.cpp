@@ -6,6 +6,9 @@ KeyBoardLineEdit::KeyBoardLineEdit(QWidget *parent)
 {
 }
 
+// The three handlers do nothing of their own. They are kept because an application that was built
+// against this class calls them through its table of virtual functions, of which they are a part.
+
 void KeyBoardLineEdit::mousePressEvent(QMouseEvent *event)
 {
     QLineEdit::mousePressEvent(event);

@@ -10,34 +10,31 @@
 
 namespace Keypad {
 
+namespace {
+
 // Only the arrows can be translated, for fonts that lack them.
-static QString labelText(const KeyCell &cell)
+QString labelText(const KeyCell &cell)
 {
     if (cell.action == MoveLeft || cell.action == MoveRight)
         return QtDifferences::translateUtf8(cell.label);
     return QtDifferences::fromCodecLiteral(cell.label);
 }
 
-QToolButton *addKey(QDialog *keypad, QGridLayout *grid, const KeyCell &cell,
-                    const char *clickedSlot)
+} // namespace
+
+void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, const KeyMembers &members)
 {
-    QToolButton *key = createKey(keypad, labelText(cell));
-    grid->addWidget(key, cell.row, cell.column, 1, cell.columnSpan);
-    QObject::connect(key, SIGNAL(clicked()), keypad, clickedSlot);
-    return key;
+    for (int i = 0; i < members.size(); ++i) {
+        QToolButton *key = createKey(keypad, labelText(cells[i]));
+        grid->addWidget(key, cells[i].row, cells[i].column, 1, cells[i].columnSpan);
+        *members.at(i) = key;
+    }
 }
 
-void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, int count,
-             QToolButton **keys, const char *clickedSlot)
+int placeOf(const QObject *key, const KeyMembers &members)
 {
-    for (int i = 0; i < count; ++i)
-        keys[i] = addKey(keypad, grid, cells[i], clickedSlot);
-}
-
-int indexOfKey(const QObject *key, QToolButton *const *keys, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        if (keys[i] == key)
+    for (int i = 0; i < members.size(); ++i) {
+        if (*members.at(i) == key)
             return i;
     }
     return -1;

@@ -2,12 +2,15 @@
 #ifndef KEYGRID_P_H
 #define KEYGRID_P_H
 
+#include <QVector>
+
 class QDialog;
 class QGridLayout;
 class QObject;
 class QToolButton;
 
-// A keypad's face as a table: one row a key, in the order in which the keys are created.
+// A keypad's face as a table: one row a key, in the order in which the keys are created. A key is
+// known by its row, never by its label, which an application may change.
 
 namespace Keypad {
 
@@ -19,7 +22,10 @@ enum KeyAction {
     MoveRight,
     Backspace,
     Cancel,
-    Confirm
+    Confirm,
+    SwitchCase, // the last three show another key set, in a keypad that has several
+    SwitchLanguage,
+    SwitchSymbols
 };
 
 struct KeyCell
@@ -30,42 +36,15 @@ struct KeyCell
     KeyAction action;
 };
 
-/*
- * Makes the key of \a cell, owned by \a keypad, in \a grid; its clicks go to \a clickedSlot of the
- * keypad.
- */
-QToolButton *addKey(QDialog *keypad, QGridLayout *grid, const KeyCell &cell,
-                    const char *clickedSlot);
+// Where a keypad keeps its keys, in the order of their cells.
+typedef QVector<QToolButton **> KeyMembers;
 
-/* Makes the \a count keys of \a cells and stores them in \a keys. */
-void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, int count,
-             QToolButton **keys, const char *clickedSlot);
+// Makes a key of each of \a cells, owned by \a keypad, in \a grid, and stores it in \a members, of
+// which there are as many.
+void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, const KeyMembers &members);
 
-/* The position of \a key in \a keys, or -1. */
-int indexOfKey(const QObject *key, QToolButton *const *keys, int count);
-
-/*
- * Makes the keys of a table whose rows say which member of \a keypad a key is, and its cell:
- * struct { QToolButton *Owner::*key; KeyCell cell; }
- */
-template <class Owner, class NamedKey, int count>
-void addNamedKeys(Owner *keypad, QGridLayout *grid, const NamedKey (&keys)[count],
-                  const char *clickedSlot)
-{
-    for (const NamedKey &named : keys)
-        keypad->*named.key = addKey(keypad, grid, named.cell, clickedSlot);
-}
-
-/* The action of \a key by its row in such a table; a key that has no row inserts its label. */
-template <class Owner, class NamedKey, int count>
-KeyAction actionOf(const QToolButton *key, const Owner *keypad, const NamedKey (&keys)[count])
-{
-    for (const NamedKey &named : keys) {
-        if (keypad->*named.key == key)
-            return named.cell.action;
-    }
-    return InsertLabel;
-}
+// The position of \a key in \a members, or -1.
+int placeOf(const QObject *key, const KeyMembers &members);
 
 } // namespace Keypad
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "KeypadLook_p.h"
 
-#include "FittedText_p.h"
+#include "FittedLabel_p.h"
 #include "HMIDeviceInfo.h"
 #include "KeyBoardLineEdit.h"
+#include "KeyButton_p.h"
 
 #include <QDialog>
 #include <QFontInfo>
@@ -22,7 +23,6 @@ const QRgb darkBlue = qRgb(15, 15, 70);
 const QRgb green = qRgb(0, 255, 0);
 const QRgb yellow = qRgb(255, 255, 0);
 
-const int keyPoints = 28;
 const int tipPoints = 20;
 const QSize unplacedSize(320, 240); // pixels, until the first placement over a view
 
@@ -53,9 +53,17 @@ void applyDarkScheme(QWidget *widget, const RoleColour (&colours)[count])
     if (HMIDeviceInfo::deviceType() != darkSchemeType)
         return;
     QPalette palette(widget->palette());
-    for (int i = 0; i < count; ++i)
-        palette.setColor(colours[i].group, colours[i].role, QColor(colours[i].colour));
+    for (const RoleColour &colour : colours)
+        palette.setColor(colour.group, colour.role, QColor(colour.colour));
     widget->setPalette(palette);
+}
+
+QLabel *createTipLabel(QDialog *keypad)
+{
+    QLabel *label = new FittedLabel<QLabel>(QString(), keypad, 0);
+    colourLabel(label);
+    label->hide();
+    return label;
 }
 
 } // namespace
@@ -82,7 +90,7 @@ void colourKey(QToolButton *key)
 
 QFont font(int points)
 {
-    const QString family = QFontInfo(QFont(QString::fromLatin1("simsun"))).family();
+    const QString family = QFontInfo(QFont(QLatin1String("simsun"))).family();
     QFont font(family, points);
     font.setPixelSize(qRound(points * 96 / 72.0f));
     return font;
@@ -118,27 +126,25 @@ KeyBoardLineEdit *createEditLine(QDialog *keypad)
     return editLine;
 }
 
-QGridLayout *setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine)
+void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine,
+                    const KeyCell *cells, const KeyMembers &members)
 {
+    colourDialog(keypad);
+    *tipLabel = createTipLabel(keypad);
+    *editLine = createEditLine(keypad);
+    QGridLayout *grid = new QGridLayout;
+    grid->setSpacing(keySpacing);
+    addKeys(keypad, grid, cells, members);
+    for (QToolButton *const *key : members)
+        QObject::connect(*key, SIGNAL(clicked()), keypad, SLOT(slot_toolButton_clicked()));
+
     QVBoxLayout *layout = new QVBoxLayout(keypad);
     setUpLayout(layout, 0);
-    colourDialog(keypad);
-    *tipLabel = new FittedLabel<QLabel>(QString(), keypad, 0);
-    colourLabel(*tipLabel);
     layout->addWidget(*tipLabel);
-    *editLine = createEditLine(keypad);
     layout->addWidget(*editLine);
-    QGridLayout *grid = new QGridLayout;
-    setUpLayout(grid, 1);
     layout->addLayout(grid);
-    return grid;
-}
-
-void finishFixedFace(QDialog *keypad, QLabel *tipLabel)
-{
-    tipLabel->hide();
-    keypad->setFont(font(keyPoints));
-    tipLabel->setFont(font(tipPoints));
+    keypad->setFont(font(fewKeysPoints));
+    (*tipLabel)->setFont(font(tipPoints));
     keypad->resize(unplacedSize);
 }
 

@@ -2,16 +2,16 @@
 #ifndef KEYPADLOOK_P_H
 #define KEYPADLOOK_P_H
 
+#include "KeyGrid_p.h"
+
 #include <QFont>
 
 class KeyBoardLineEdit;
 class QDialog;
-class QGridLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
 class QString;
-class QToolButton;
 class QWidget;
 
 // How every keypad looks: the dark scheme of panel type 13, the fonts, and the parts of which its
@@ -24,31 +24,31 @@ void colourLabel(QLabel *label);
 void colourEditLine(QLineEdit *editLine);
 void colourKey(QToolButton *key);
 
-/* The keypads' font at \a points, in pixels at 96 dots per inch whatever the screen reports. */
+const int fewKeysPoints = 28;  // of keypads whose keys never change
+const int manyKeysPoints = 24; // of the others, which have more to show
+
+// The keypads' font at \a points, in pixels at 96 dots per inch whatever the screen reports.
 QFont font(int points);
 
-/*
- * Lets \a layout share whatever room its dialog has. A layout's own minimum would push a dialog
- * with large labels beyond the smallest panels.
- */
+const int keySpacing = 1; // pixels
+
+// Lets \a layout, that of a dialog, share whatever room the dialog has. A layout's own minimum
+// would push a dialog with large labels beyond the smallest panels.
 void setUpLayout(QLayout *layout, int spacing);
 
-/* A key of a keypad, owned by \a parent, that takes an equal share of its layout. */
+// A key of a keypad, owned by \a parent, that takes an equal share of its layout.
 QToolButton *createKey(QWidget *parent, const QString &label);
 
-/* Makes a key of a button that exists. */
+// Makes a key of a button that exists.
 void setUpKey(QToolButton *key, const QString &label);
 
 KeyBoardLineEdit *createEditLine(QDialog *keypad);
 
-/*
- * The face of a keypad whose keys never change: its colours, a line for limits in \a tipLabel, the
- * edit line in \a editLine and, below them, the grid that is returned for the keys.
- */
-QGridLayout *setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine);
-
-/* The last step after the keys: hides \a tipLabel, sets the fonts and the first size. */
-void finishFixedFace(QDialog *keypad, QLabel *tipLabel);
+// The whole face of a keypad whose keys never change: colours, fonts, the first size, a line for
+// limits in \a tipLabel, hidden, the edit line in \a editLine and, below them, the keys of \a cells
+// in \a members. Clicks go to the keypad's slot_toolButton_clicked().
+void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine,
+                    const KeyCell *cells, const KeyMembers &members);
 
 } // namespace Keypad
 

@@ -7,6 +7,7 @@
 #include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalMapper>
 #include <QToolButton>
 #include <QVariant>
 
@@ -26,9 +27,8 @@ const int applicationKeys[] = {
 
 bool isApplicationKey(int key)
 {
-    const int count = int(sizeof(applicationKeys) / sizeof(applicationKeys[0]));
-    for (int i = 0; i < count; ++i) {
-        if (applicationKeys[i] == key)
+    for (int applicationKey : applicationKeys) {
+        if (applicationKey == key)
             return true;
     }
     return false;
@@ -40,11 +40,11 @@ void resetEditLine(QLineEdit *editLine)
     editLine->setMaxLength(unlimitedLength);
 }
 
-void enableKeys(QWidget *keypad)
+void enableKeys(const QDialog *keypad)
 {
     const QList<QToolButton *> keys = keypad->findChildren<QToolButton *>();
-    for (int i = 0; i < keys.size(); ++i)
-        keys.at(i)->setEnabled(true);
+    for (QToolButton *key : keys)
+        key->setEnabled(true);
 }
 
 void moveCursor(QLineEdit *editLine, int step)
@@ -52,9 +52,66 @@ void moveCursor(QLineEdit *editLine, int step)
     editLine->setCursorPosition(editLine->cursorPosition() + step);
 }
 
+// Takes every minus sign away when the text begins with one, else puts one in front. The cursor
+// keeps its place among the digits, and a selection becomes a selection of all.
+void toggleSign(QLineEdit *editLine)
+{
+    const QString minus(QLatin1Char('-'));
+    QString text = editLine->text();
+    int cursor = editLine->cursorPosition();
+    const bool selected = editLine->hasSelectedText();
+
+    if (text.startsWith(minus)) {
+        text.remove(minus);
+        --cursor;
+    } else {
+        text.prepend(minus);
+        ++cursor;
+    }
+    editLine->setText(text);
+    editLine->setCursorPosition(cursor);
+    if (selected)
+        editLine->selectAll();
+}
+
+void act(KeyAction action, const QString &label, QDialog *keypad, QObject *target,
+         QLineEdit *editLine)
+{
+    switch (action) {
+    case InsertLabel:
+        editLine->insert(label);
+        break;
+    case InsertSpace:
+        editLine->insert(QString(QLatin1Char(' ')));
+        break;
+    case ToggleSign:
+        toggleSign(editLine);
+        break;
+    case MoveLeft:
+        moveCursor(editLine, -1);
+        break;
+    case MoveRight:
+        moveCursor(editLine, 1);
+        break;
+    case Backspace:
+        editLine->backspace();
+        break;
+    case Cancel:
+        keypad->reject();
+        break;
+    case Confirm:
+        confirm(keypad, target, editLine);
+        break;
+    case SwitchCase:
+    case SwitchLanguage:
+    case SwitchSymbols:
+        break; // the keypad that has such keys sees to them itself
+    }
+}
+
 } // namespace
 
-void bindTarget(QObject *object, QPointer<QObject> *target, QLineEdit *editLine,
+void bindTarget(QObject *object, QPointer<QObject> *target, QDialog *keypad, QLineEdit *editLine,
                 KeyEnabling enabling)
 {
     if (!object)
@@ -63,7 +120,7 @@ void bindTarget(QObject *object, QPointer<QObject> *target, QLineEdit *editLine,
     object->blockSignals(true);
     resetEditLine(editLine);
     if (enabling == EnableKeys)
-        enableKeys(editLine->parentWidget());
+        enableKeys(keypad);
     object->blockSignals(false);
 }
 
@@ -96,62 +153,26 @@ void confirm(QDialog *keypad, QObject *target, const QLineEdit *editLine)
         keypad->accept();
 }
 
-void act(KeyAction action, const QString &label, QDialog *keypad, QObject *target,
-         QLineEdit *editLine)
+void press(const QObject *key, const KeyCell *cells, const KeyMembers &members, QDialog *keypad,
+           QObject *target, QLineEdit *editLine)
 {
-    switch (action) {
-    case InsertLabel:
-        editLine->insert(label);
-        break;
-    case InsertSpace:
-        editLine->insert(QString(QLatin1Char(' ')));
-        break;
-    case ToggleSign:
-        toggleSign(editLine);
-        break;
-    case MoveLeft:
-        moveCursor(editLine, -1);
-        break;
-    case MoveRight:
-        moveCursor(editLine, 1);
-        break;
-    case Backspace:
-        editLine->backspace();
-        break;
-    case Cancel:
-        keypad->reject();
-        break;
-    case Confirm:
-        confirm(keypad, target, editLine);
-        break;
-    }
+    const int place = placeOf(key, members);
+    if (place >= 0)
+        act(cells[place].action, (*members.at(place))->text(), keypad, target, editLine);
 }
 
-void toggleSign(QLineEdit *editLine)
+QRect mappedToGlobal(const QWidget *widget, const QRect &rect)
 {
-    const QString minus(QLatin1Char('-'));
-    QString text = editLine->text();
-    int cursor = editLine->cursorPosition();
-    const bool selected = editLine->hasSelectedText();
-
-    if (text.startsWith(minus)) {
-        text.remove(minus);
-        --cursor;
-    } else {
-        text.prepend(minus);
-        ++cursor;
-    }
-    editLine->setText(text);
-    editLine->setCursorPosition(cursor);
-    if (selected)
-        editLine->selectAll();
+    return QRect(widget->mapToGlobal(rect.topLeft()), widget->mapToGlobal(rect.bottomRight()));
 }
 
-QRect coveredRect(const QGraphicsView *view)
+bool coverView(QDialog *keypad)
 {
-    const QWidget *viewport = view->viewport();
-    const QRect rect = viewport->geometry();
-    return QRect(viewport->mapToGlobal(rect.topLeft()), viewport->mapToGlobal(rect.bottomRight()));
+    const QGraphicsView *view = HMIDeviceInfo::graphicsView();
+    if (!view)
+        return false;
+    keypad->setGeometry(mappedToGlobal(view->viewport(), view->viewport()->geometry()));
+    return true;
 }
 
 bool isConfirmKey(int key)
@@ -165,6 +186,12 @@ bool closeForApplication(QDialog *keypad, int key)
         return false;
     keypad->reject();
     return true;
+}
+
+void mapKey(QSignalMapper *mapper, QObject *key, const QString &label)
+{
+    QObject::disconnect(key, SIGNAL(destroyed()), mapper, nullptr);
+    mapper->setMapping(key, label);
 }
 
 } // namespace Keypad

@@ -3,17 +3,18 @@
 
 #include "HMIDeviceInfo.h"
 #include "KeyBoardLineEdit.h"
-#include "KeyGrid_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
 
+#include <QByteArray>
 #include <QGraphicsView>
 #include <QKeyEvent>
-#include <QStringList>
 #include <QToolButton>
 
+namespace {
+
 // clang-format off
-static const Keypad::KeyCell keyCells[] = {
+constexpr Keypad::KeyCell keyCells[] = {
     { "A",     0, 0, 1, Keypad::InsertLabel },
     { "1",     0, 1, 1, Keypad::InsertLabel },
     { "2",     0, 2, 1, Keypad::InsertLabel },
@@ -42,17 +43,30 @@ static const Keypad::KeyCell keyCells[] = {
     { "→",     4, 1, 1, Keypad::MoveRight   },
     { "Enter", 4, 3, 2, Keypad::Confirm     }
 };
-
-static const struct
-{
-    int base;
-    const char *unusableKeys; // labels, separated by blanks
-} editModes[] = {
-    {  2, "A 2 3 B 4 5 6 C 7 8 9 +/- D E F ." },
-    { 10, "A B C D E F" },
-    { 16, "+/- ." }
-};
 // clang-format on
+
+const int pointKey = 19; // its place in the table
+static_assert(keyCells[pointKey].label[0] == '.', "the decimal point");
+
+const int decimalBase = 10;
+
+bool isEditMode(int base)
+{
+    return base == 2 || base == decimalBase || base == 16;
+}
+
+// Sign and point are for decimal numbers alone, a digit for the bases above its value.
+bool isUsable(int place, int base)
+{
+    const Keypad::KeyCell &cell = keyCells[place];
+    if (cell.action == Keypad::ToggleSign || place == pointKey)
+        return base == decimalBase;
+    if (cell.action != Keypad::InsertLabel)
+        return true;
+    return QByteArray(cell.label).toInt(nullptr, 16) < base;
+}
+
+} // namespace
 
 NumericKeypad *NumericKeypad::m_instance = nullptr;
 
@@ -67,30 +81,30 @@ NumericKeypad::NumericKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
     static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
-    QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
-    Keypad::addKeys(this, grid, keyCells, KeyCount, m_keys, SLOT(slot_toolButton_clicked()));
-    setEditMode(10);
-    Keypad::finishFixedFace(this, m_tipLabel);
+    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, keyCells, keyMembers());
+    setEditMode(decimalBase);
 }
 
 NumericKeypad::~NumericKeypad() = default;
 
 void NumericKeypad::setObject(QObject *object)
 {
-    Keypad::bindTarget(object, &m_object, m_lineEdit, Keypad::EnableKeys);
+    Keypad::bindTarget(object, &m_object, this, m_lineEdit, Keypad::EnableKeys);
 }
 
 void NumericKeypad::setEditMode(int mode)
 {
-    for (const auto &editMode : editModes) {
-        if (editMode.base == mode)
-            setKeysEnabled(editMode.unusableKeys, false);
+    if (!isEditMode(mode))
+        return;
+    for (int place = 0; place < KeyCount; ++place) {
+        if (!isUsable(place, mode))
+            m_keys[place]->setEnabled(false);
     }
 }
 
 void NumericKeypad::setDecimalPointEnabled(bool enabled)
 {
-    setKeysEnabled(".", enabled);
+    m_keys[pointKey]->setEnabled(enabled);
 }
 
 void NumericKeypad::setMaxLength(int length)
@@ -130,25 +144,19 @@ void NumericKeypad::keyPressEvent(QKeyEvent *event)
 
 void NumericKeypad::showEvent(QShowEvent *event)
 {
-    const QGraphicsView *view = HMIDeviceInfo::graphicsView();
-    if (!view)
-        return;
-    setGeometry(Keypad::coveredRect(view));
-    QDialog::showEvent(event);
+    if (Keypad::coverView(this))
+        QDialog::showEvent(event);
 }
 
 void NumericKeypad::slot_toolButton_clicked()
 {
-    const int i = Keypad::indexOfKey(sender(), m_keys, KeyCount);
-    if (i >= 0)
-        Keypad::act(keyCells[i].action, m_keys[i]->text(), this, m_object, m_lineEdit);
+    Keypad::press(sender(), keyCells, keyMembers(), this, m_object, m_lineEdit);
 }
 
-void NumericKeypad::setKeysEnabled(const char *labels, bool enabled)
+QVector<QToolButton **> NumericKeypad::keyMembers()
 {
-    const QStringList list = QString::fromLatin1(labels).split(QLatin1Char(' '));
-    for (QToolButton *key : m_keys) {
-        if (list.contains(key->text()))
-            key->setEnabled(enabled);
-    }
+    QVector<QToolButton **> members;
+    for (QToolButton *&key : m_keys)
+        members << &key;
+    return members;
 }

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QPointer>
+#include <QVector>
 
 class KeyBoardLineEdit;
 class QLabel;
@@ -20,8 +21,9 @@ class QValidator;
  * (setEditMode() to setLimitToolTip(), which setObject() resets in part), setText(), exec().
  * exec() returns QDialog::Accepted when the field was written, else QDialog::Rejected.
  *
- * At every show it covers the viewport of HMIDeviceInfo::graphicsView(). Without a view it keeps
- * its geometry, 320x240 pixels at first. Return and Enter confirm, Escape cancels.
+ * At every show it covers the viewport of HMIDeviceInfo::graphicsView(). Without a view it does not
+ * place itself: 320x240 pixels at first, and where Qt puts a dialog that nobody has moved. Return
+ * and Enter confirm, Escape cancels.
  *
  * Confirming writes what stands in the edit line, whether or not a validator accepts it as
  * complete. Without a target it does nothing, and the keypad stays open.
@@ -103,14 +105,14 @@ private Q_SLOTS:
 private:
     enum { KeyCount = 23 };
 
-    void setKeysEnabled(const char *labels, bool enabled);
+    QVector<QToolButton **> keyMembers();
 
     static NumericKeypad *m_instance;
 
     QPointer<QObject> m_object;
     QLabel *m_tipLabel;
     KeyBoardLineEdit *m_lineEdit;
-    QToolButton *m_keys[KeyCount];
+    QToolButton *m_keys[KeyCount]; // "A", "1", "2", "3", "ESC", row by row
 };
 
 #endif

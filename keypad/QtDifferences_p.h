@@ -8,17 +8,15 @@
 
 // Everything in which Qt 4.8, 5 and 6 differ for this library, once and by purpose.
 
-/* The signal with which a QSignalMapper sends the string that a sender is mapped to. */
+// The signal with which a QSignalMapper sends the string that a sender is mapped to.
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #define HMI_MAPPED_STRING_SIGNAL SIGNAL(mapped(QString))
 #else
 #define HMI_MAPPED_STRING_SIGNAL SIGNAL(mappedString(QString))
 #endif
 
-/*
- * A literal that Qt 4 reads through the process's codec for 8-bit literals, for which applications
- * set GBK. Qt 5 and 6 have no such codec; their 8-bit literals are UTF-8.
- */
+// A literal that Qt 4 reads through the process's codec for 8-bit literals, for which applications
+// set GBK. Qt 5 and 6 have no such codec; their 8-bit literals are UTF-8.
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #define HMI_CODEC_LITERAL(gbkBytes, utf8Text) gbkBytes
 #else
@@ -36,7 +34,7 @@ inline QString fromCodecLiteral(const char *literal)
 #endif
 }
 
-/* Translates a UTF-8 text that belongs to no context. */
+// Translates a UTF-8 text that belongs to no context.
 inline QString translateUtf8(const char *text)
 {
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)

@@ -3,7 +3,6 @@
 
 #include "HMIDeviceInfo.h"
 #include "KeyBoardLineEdit.h"
-#include "KeyGrid_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
 #include "QtDifferences_p.h"
@@ -14,9 +13,11 @@
 
 #define SPACE_LABEL HMI_CODEC_LITERAL("\xA9\xB8\xA9\xA4\xA9\xBC", "└─┘")
 
+namespace {
+
 // clang-format off
 // Cell (0, 0) stays empty: the letter columns read U-V-W, A-B-C and X-Y-Z downwards.
-static const Keypad::KeyCell wordCells[] = {
+const Keypad::KeyCell keyCells[] = {
     { "F",         0, 1, 1, Keypad::InsertLabel },
     { "G",         0, 2, 1, Keypad::InsertLabel },
     { "7",         0, 3, 1, Keypad::InsertLabel },
@@ -41,27 +42,19 @@ static const Keypad::KeyCell wordCells[] = {
     { "C",         3, 1, 1, Keypad::InsertLabel },
     { "Z",         3, 2, 1, Keypad::InsertLabel },
     { "0",         3, 3, 1, Keypad::InsertLabel },
-    { ".",         3, 4, 1, Keypad::InsertLabel }
+    { ".",         3, 4, 1, Keypad::InsertLabel },
+    { "-",         3, 5, 1, Keypad::ToggleSign  },
+
+    { "←",         4, 0, 1, Keypad::MoveLeft    },
+    { "→",         4, 1, 1, Keypad::MoveRight   },
+    { "ESC",       4, 2, 1, Keypad::Cancel      },
+    { "BSP",       4, 3, 1, Keypad::Backspace   },
+    { SPACE_LABEL, 4, 4, 1, Keypad::InsertSpace },
+    { "Enter",     4, 5, 1, Keypad::Confirm     }
 };
 // clang-format on
 
-struct vondKeypad::EditingKey
-{
-    QToolButton *vondKeypad::*key;
-    Keypad::KeyCell cell;
-};
-
-// clang-format off
-const vondKeypad::EditingKey vondKeypad::editingKeys[] = {
-    { &vondKeypad::m_signKey,  { "-",         3, 5, 1, Keypad::ToggleSign  } },
-    { &vondKeypad::m_leftKey,  { "←",         4, 0, 1, Keypad::MoveLeft    } },
-    { &vondKeypad::m_rightKey, { "→",         4, 1, 1, Keypad::MoveRight   } },
-    { &vondKeypad::m_escKey,   { "ESC",       4, 2, 1, Keypad::Cancel      } },
-    { &vondKeypad::m_bspKey,   { "BSP",       4, 3, 1, Keypad::Backspace   } },
-    { &vondKeypad::m_spaceKey, { SPACE_LABEL, 4, 4, 1, Keypad::InsertSpace } },
-    { &vondKeypad::m_enterKey, { "Enter",     4, 5, 1, Keypad::Confirm     } }
-};
-// clang-format on
+} // namespace
 
 vondKeypad *vondKeypad::m_instance = nullptr;
 
@@ -75,19 +68,14 @@ vondKeypad *vondKeypad::instance()
 vondKeypad::vondKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
-    static_assert(sizeof(wordCells) == WordKeyCount * sizeof(wordCells[0]), "a cell for each key");
-    QGridLayout *grid = Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit);
-    Keypad::addKeys(this, grid, wordCells, WordKeyCount, m_wordKeys,
-                    SLOT(slot_toolButton_clicked()));
-    Keypad::addNamedKeys(this, grid, editingKeys, SLOT(slot_toolButton_clicked()));
-    Keypad::finishFixedFace(this, m_tipLabel);
+    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, keyCells, keyMembers());
 }
 
 vondKeypad::~vondKeypad() = default;
 
 void vondKeypad::setObject(QObject *object)
 {
-    Keypad::bindTarget(object, &m_object, m_lineEdit, Keypad::EnableKeys);
+    Keypad::bindTarget(object, &m_object, this, m_lineEdit, Keypad::EnableKeys);
 }
 
 void vondKeypad::setEditMode(int)
@@ -135,13 +123,20 @@ void vondKeypad::keyPressEvent(QKeyEvent *event)
 
 void vondKeypad::showEvent(QShowEvent *event)
 {
-    setGeometry(Keypad::coveredRect(HMIDeviceInfo::graphicsView()));
-    QDialog::showEvent(event);
+    if (Keypad::coverView(this))
+        QDialog::showEvent(event);
 }
 
 void vondKeypad::slot_toolButton_clicked()
 {
-    if (const QToolButton *key = qobject_cast<QToolButton *>(sender()))
-        Keypad::act(Keypad::actionOf(key, this, editingKeys), key->text(), this, m_object,
-                    m_lineEdit);
+    Keypad::press(sender(), keyCells, keyMembers(), this, m_object, m_lineEdit);
+}
+
+QVector<QToolButton **> vondKeypad::keyMembers()
+{
+    QVector<QToolButton **> members;
+    for (QToolButton *&key : m_wordKeys)
+        members << &key;
+    return members << &m_signKey << &m_leftKey << &m_rightKey << &m_escKey << &m_bspKey
+                   << &m_spaceKey << &m_enterKey;
 }

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QPointer>
+#include <QVector>
 
 class KeyBoardLineEdit;
 class QLabel;
@@ -21,9 +22,9 @@ class QValidator;
  * (setMaxLength() to setLimitToolTip(), which setObject() resets in part), setText(), exec().
  * exec() returns QDialog::Accepted when the field was written, else QDialog::Rejected.
  *
- * At every show it covers the viewport of HMIDeviceInfo::graphicsView(). A view must be registered
- * before the keypad is shown: it does not look, and showing it without one crashes. Return and
- * Enter confirm, Escape cancels.
+ * At every show it covers the viewport of HMIDeviceInfo::graphicsView(). Without a view it does not
+ * place itself: 320x240 pixels at first, and where Qt puts a dialog that nobody has moved. Return
+ * and Enter confirm, Escape cancels.
  *
  * Confirming writes what stands in the edit line, whether or not a validator accepts it as
  * complete. Without a target it does nothing, and the keypad stays open.
@@ -101,15 +102,15 @@ private Q_SLOTS:
 
 private:
     enum { WordKeyCount = 22 };
-    struct EditingKey;
+
+    QVector<QToolButton **> keyMembers();
 
     static vondKeypad *m_instance;
-    static const EditingKey editingKeys[];
 
     QPointer<QObject> m_object;
     QLabel *m_tipLabel;
     KeyBoardLineEdit *m_lineEdit;
-    QToolButton *m_wordKeys[WordKeyCount];
+    QToolButton *m_wordKeys[WordKeyCount]; // letters, digits and ".", row by row
     QToolButton *m_signKey;
     QToolButton *m_leftKey;
     QToolButton *m_rightKey;

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#ifndef KEYBUTTON_P_H
+#define KEYBUTTON_P_H
+
+#include <QToolButton>
+
+namespace Keypad {
+
+// A key whose size does not depend on its label, which is drawn smaller rather than clipped.
+class KeyButton : public QToolButton
+{
+public:
+    explicit KeyButton(QWidget *parent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace Keypad
+
+#endif
