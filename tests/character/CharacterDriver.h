@@ -2,7 +2,7 @@
 #ifndef CHARACTERDRIVER_H
 #define CHARACTERDRIVER_H
 
-#include "support/KeypadDriver.h"
+#include "support/KeypadStage.h"
 
 #include <HMIDevice/CharacterKeypad.h>
 #include <HMIDevice/ChnPanel.h>
@@ -14,21 +14,7 @@
 
 // Works the character keypad, whose keys change their labels.
 
-/* The whole panel with a keypad bound to a field. */
-class CharacterStage
-{
-public:
-    explicit CharacterStage(DeviceType type = 1, const QSize &size = QSize(640, 480))
-        : view(type, size)
-        , keypad(&view, Qt::WindowFlags())
-    {
-        keypad.setObject(&target);
-    }
-
-    PanelView view;
-    CharacterKeypad keypad;
-    QLineEdit target;
-};
+typedef KeypadStage<CharacterKeypad> CharacterStage;
 
 inline ChnPanel *candidatePanel(const CharacterKeypad &keypad)
 {

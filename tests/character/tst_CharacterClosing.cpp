@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CharacterDriver.h"
 
-#include <algorithm>
-
 // How a run of the keypad ends in each of its modes: keys and hard keys that confirm, cancel or are
 // handed on.
 
@@ -13,17 +11,6 @@ const struct
 {
     const char *name, *taps;
 } modes[] = { { "English", "" }, { "capitals", "caps" }, { "symbols", "*#" }, { "Chinese", "CN" } };
-
-const int handedOnKeys[] = { Qt::Key_Up,  Qt::Key_Down, Qt::Key_F1,  Qt::Key_F2,  Qt::Key_F3,
-                             Qt::Key_F4,  Qt::Key_F5,   Qt::Key_F9,  Qt::Key_F10, Qt::Key_F11,
-                             Qt::Key_F13, Qt::Key_F17,  Qt::Key_F18, Qt::Key_F20, Qt::Key_F25,
-                             Qt::Key_F26, Qt::Key_F27,  Qt::Key_F32 };
-
-bool isHandedOn(int key)
-{
-    const int *end = handedOnKeys + sizeof(handedOnKeys) / sizeof(handedOnKeys[0]);
-    return std::find(handedOnKeys, end, key) != end;
-}
 
 /* Hears of a hard key that was handed on, and looks at the keypad in that moment. */
 class KeyListener : public QObject
@@ -86,12 +73,14 @@ void tst_CharacterClosing::enterWritesAndAccepts()
     stage.target.setText(u("old"));
     stage.keypad.setText(u("new"));
     QSignalSpy changed(&stage.target, SIGNAL(textChanged(QString)));
-    const int result = execWhile(&stage.keypad, [&] {
-        press(stage.keypad, qPrintable(mode));
-        QCOMPARE(stage.target.text(), u("old"));
-        press(stage.keypad, "Enter");
-    });
-    QCOMPARE(result, int(QDialog::Accepted));
+    CHECKED(execWhile(
+        &stage.keypad,
+        [&] {
+            press(stage.keypad, qPrintable(mode));
+            QCOMPARE(stage.target.text(), u("old"));
+            press(stage.keypad, "Enter");
+        },
+        Accepts));
     QCOMPARE(stage.target.text(), u("new"));
     QCOMPARE(changed.count(), 1);
 }
@@ -109,8 +98,7 @@ void tst_CharacterClosing::enterNeedsALivingTarget()
     QObject *gone = new QLineEdit;
     for (int i = 0; i < 2; ++i) {
         keypad.setText(u("text"));
-        bool leftOpen = false;
-        const int result = execWhile(
+        CHECKED(execWhile(
             &keypad,
             [&] {
                 if (i == 0)
@@ -118,9 +106,7 @@ void tst_CharacterClosing::enterNeedsALivingTarget()
                 press(keypad, "Enter");
                 pressHardKey(&keypad, Qt::Key_Return);
             },
-            &leftOpen);
-        QVERIFY(leftOpen);
-        QCOMPARE(result, int(QDialog::Rejected));
+            StaysOpen));
         QCOMPARE(editLine(&keypad)->text(), u("text"));
         if (i == 0) {
             keypad.setObject(gone);
@@ -140,16 +126,13 @@ void tst_CharacterClosing::escapeLeavesTheTargetAlone()
     CharacterStage stage;
     stage.target.setText(u("old"));
     stage.keypad.setText(u("new"));
-    bool leftOpen = true;
-    const int result = execWhile(
+    CHECKED(execWhile(
         &stage.keypad,
         [&] {
             press(stage.keypad, qPrintable(mode));
             press(stage.keypad, "Esc");
         },
-        &leftOpen);
-    QVERIFY(!leftOpen);
-    QCOMPARE(result, int(QDialog::Rejected));
+        Rejects));
     QCOMPARE(stage.target.text(), u("old"));
 }
 
@@ -191,16 +174,13 @@ void tst_CharacterClosing::hardKeysConfirmAndCancel()
     stage.target.setText(u("old"));
     stage.keypad.setText(u("new"));
     QSignalSpy handedOn(&stage.keypad, SIGNAL(signal_kTypeKeyPressed(int)));
-    bool leftOpen = true;
-    const int result = execWhile(
+    CHECKED(execWhile(
         &stage.keypad,
         [&] {
             press(stage.keypad, qPrintable(mode));
             pressHardKey(&stage.keypad, key);
         },
-        &leftOpen);
-    QVERIFY(!leftOpen);
-    QCOMPARE(result, int(confirms ? QDialog::Accepted : QDialog::Rejected));
+        confirms ? Accepts : Rejects));
     QCOMPARE(stage.target.text(), u(confirms ? "new" : "old"));
     QCOMPARE(handedOn.count(), 0);
 }
@@ -231,7 +211,7 @@ void tst_CharacterClosing::hardKeysAreHandedOnByType13()
         keys << key;
     for (int i = 0; i < keys.size(); ++i) {
         const int key = keys.at(i);
-        const bool handedOn = type == 13 && isHandedOn(key);
+        const bool handedOn = type == 13 && applicationKeys().contains(key);
         stage.keypad.show();
         KeyListener listener(&stage.keypad);
         QSignalSpy rejected(&stage.keypad, SIGNAL(rejected()));
@@ -249,23 +229,32 @@ void tst_CharacterClosing::hardKeysAreHandedOnByType13()
 void tst_CharacterClosing::theNextRunOpensAsTheLastWasLeft()
 {
     CharacterStage stage;
-    execWhile(&stage.keypad, [&] { press(stage.keypad, "a b CN *# Esc"); });
-    execWhile(&stage.keypad, [&] {
-        QCOMPARE(face(stage.keypad), u("~ << _ + digits"));
-        QCOMPARE(editLine(&stage.keypad)->text(), u("ab"));
-        press(stage.keypad, "<< Enter");
-    });
+    CHECKED(execWhile(
+        &stage.keypad, [&] { press(stage.keypad, "a b CN *# Esc"); }, Rejects));
+    CHECKED(execWhile(
+        &stage.keypad,
+        [&] {
+            QCOMPARE(face(stage.keypad), u("~ << _ + digits"));
+            QCOMPARE(editLine(&stage.keypad)->text(), u("ab"));
+            press(stage.keypad, "<< Enter");
+        },
+        Accepts));
     QCOMPARE(stage.target.text(), u("ab"));
     QLineEdit other;
     stage.keypad.setObject(&other);
-    execWhile(&stage.keypad, [&] {
-        QCOMPARE(face(stage.keypad), u("blank EN *# q candidates"));
-        QCOMPARE(editLine(&stage.keypad)->text(), u("ab"));
-        press(stage.keypad, "EN Enter");
-    });
+    CHECKED(execWhile(
+        &stage.keypad,
+        [&] {
+            QCOMPARE(face(stage.keypad), u("blank EN *# q candidates"));
+            QCOMPARE(editLine(&stage.keypad)->text(), u("ab"));
+            press(stage.keypad, "EN Enter");
+        },
+        Accepts));
     QCOMPARE(other.text(), u("ab"));
-    execWhile(&stage.keypad, [&] { press(stage.keypad, "caps Esc"); });
-    execWhile(&stage.keypad, [&] { QCOMPARE(face(stage.keypad), u("CAPS CN *# Q digits")); });
+    CHECKED(execWhile(
+        &stage.keypad, [&] { press(stage.keypad, "caps Esc"); }, Rejects));
+    CHECKED(execWhile(
+        &stage.keypad, [&] { QCOMPARE(face(stage.keypad), u("CAPS CN *# Q digits")); }, StaysOpen));
 }
 
 QTEST_MAIN(tst_CharacterClosing)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CharacterDriver.h"
-#include "DarkScheme.h"
+#include "support/DarkScheme.h"
 #include "support/QtDifferences.h"
 
 #include <QHBoxLayout>
@@ -434,15 +434,11 @@ void tst_ChnPanel::coloursFollowThePanelTypeOfItsConstruction()
     ChnPanel panel(nullptr);
     HMIDeviceInfo::setDeviceInfo(typeLater, QSize(640, 480));
 
-    const QPalette bareKey = DarkScheme::barePalette<QToolButton>(&panel);
-    const QPalette bareLabel = DarkScheme::barePalette<QLabel>(&panel);
-    const QPalette key = dark ? DarkScheme::key(bareKey) : bareKey;
-    const QPalette label = dark ? DarkScheme::label(bareLabel) : bareLabel;
-    QCOMPARE(panel.getToolButton(0)->palette(), key);
-    QCOMPARE(panel.getToolButton(1)->palette(), key);
-    QCOMPARE(panel.getPinyinLabel()->palette(), label);
+    CHECKED(DarkScheme::verify(panel.getToolButton(0), dark));
+    CHECKED(DarkScheme::verify(panel.getToolButton(1), dark));
+    CHECKED(DarkScheme::verify(panel.getPinyinLabel(), dark));
     for (short i = 0; i < 5; ++i)
-        QCOMPARE(panel.getClickLabel(i)->palette(), label);
+        CHECKED(DarkScheme::verify(panel.getClickLabel(i), dark));
 }
 
 QTEST_MAIN(tst_ChnPanel)

@@ -98,7 +98,7 @@ QString mark(const QWidget *field)
     return field->palette().color(QPalette::Active, QPalette::Base).name();
 }
 
-/* What the keypad is made of, without the parts inside a spin box. */
+// What the keypad is made of, without the parts inside a spin box.
 QWidgetList parts(const QWidget *keypad)
 {
     QWidgetList widgets;
@@ -130,7 +130,7 @@ QString timeText(int hour, int minute, int second)
         .arg(second, 2, 10, QLatin1Char('0'));
 }
 
-/* The same sequence on every machine. */
+// The same sequence on every machine.
 class Random
 {
 public:
@@ -173,14 +173,14 @@ private:
     std::mt19937 m_engine;
 };
 
-/* What clocks on the wall show at this moment, as a value that can be reckoned with. */
+// What clocks on the wall show at this moment, as a value that can be reckoned with.
 QDateTime wallClock(const QDateTime &moment)
 {
     const QDateTime local = moment.toLocalTime();
     return QDateTime(local.date(), local.time(), Qt::UTC);
 }
 
-/* The middles of the hours that clocks of this machine's time zone skipped in a year. */
+// The middles of the hours that clocks of this machine's time zone skipped in a year.
 QStringList skippedTimes(int year)
 {
     QStringList texts;
@@ -196,7 +196,7 @@ QStringList skippedTimes(int year)
     return texts;
 }
 
-/* Notes the key events that come to a widget. */
+// Notes the key events that come to a widget.
 class KeyEvents : public QObject
 {
 public:
@@ -228,7 +228,7 @@ private:
     }
 };
 
-/* Puts the context in front of every text. */
+// Puts the context in front of every text.
 class ContextTranslator : public QTranslator
 {
 public:
@@ -355,7 +355,7 @@ void tst_DateTimeKeypad::cleanup()
     delete m_view;
 }
 
-/* The days of a fresh keypad end with 28 until a field changes. */
+// The days of a fresh keypad end with 28 until a field changes.
 void tst_DateTimeKeypad::use()
 {
     m_keypad->setText("2000-10-15 12:30:30");
@@ -367,7 +367,7 @@ void tst_DateTimeKeypad::open()
     QApplication::setActiveWindow(m_keypad);
 }
 
-/* Comes to a field as the Tab key does: its text is selected. */
+// Comes to a field as the Tab key does: its text is selected.
 void tst_DateTimeKeypad::focus(int number)
 {
     open();
@@ -674,7 +674,7 @@ void tst_DateTimeKeypad::nullObjectKeepsTheTarget()
     m_keypad->setObject(&target);
     m_keypad->setObject(nullptr);
     m_keypad->setText(shownTime);
-    tap(m_keypad, "Ok");
+    CHECKED(tap(m_keypad, "Ok"));
     QCOMPARE(target.text(), QString(shownTime));
 }
 
@@ -752,7 +752,7 @@ void tst_DateTimeKeypad::dayIsClampedToTheMonth()
     m_keypad->setMaxLength(DateLength);
     m_keypad->setText(before);
     focus(number);
-    tapAll(m_keypad, taps);
+    CHECKED(tapAll(m_keypad, taps));
     QTEST(display(m_keypad), "after");
     QCOMPARE(field(Day)->value(), display(m_keypad).right(2).toInt());
 }
@@ -776,7 +776,7 @@ void tst_DateTimeKeypad::hour24ComposesNoTime()
     field(Hour)->setValue(24);
     QCOMPARE(field(Hour)->value(), 24);
     QTEST(display(m_keypad), "shown");
-    tap(m_keypad, "Ok");
+    CHECKED(tap(m_keypad, "Ok"));
     QTEST(target.text(), "shown");
 }
 
@@ -949,7 +949,7 @@ void tst_DateTimeKeypad::timesSkippedHereSurvive()
     use();
     for (const QString &text : texts) {
         m_keypad->setText(text);
-        tap(m_keypad, "Ok");
+        CHECKED(tap(m_keypad, "Ok"));
         QCOMPARE(target.text(), text);
     }
 }
@@ -1005,7 +1005,7 @@ void tst_DateTimeKeypad::keysWorkOnTheFocusedFieldAlone()
     QFETCH(QString, taps);
     m_keypad->setText(shownTime);
     focus(number);
-    tapAll(m_keypad, taps);
+    CHECKED(tapAll(m_keypad, taps));
     QTEST(values(m_keypad), "filled");
 }
 
@@ -1014,7 +1014,7 @@ void tst_DateTimeKeypad::tapsAreKeyPressesOfTheField()
     KeyEvents events;
     focus(Year);
     field(Year)->installEventFilter(&events);
-    tapAll(m_keypad, editingKeys);
+    CHECKED(tapAll(m_keypad, editingKeys));
 
     QStringList expected;
     for (const QString &digit : words("1 2 3 4 5 6 7 8 9 0"))
@@ -1030,7 +1030,7 @@ void tst_DateTimeKeypad::keysFollowATapIntoAField()
     QLineEdit *text = field(Minute)->findChild<QLineEdit *>();
     QTest::mouseClick(text, Qt::LeftButton, Qt::NoModifier, text->rect().center());
     QCOMPARE(m_keypad->focusSpinBox(), field(Minute));
-    tapAll(m_keypad, "Delete 3 4");
+    CHECKED(tapAll(m_keypad, "Delete 3 4"));
     QCOMPARE(display(m_keypad), QString("2024-05-17 08:34:10"));
 }
 
@@ -1038,7 +1038,7 @@ void tst_DateTimeKeypad::keysTakeNoFocus()
 {
     focus(Minute);
     for (const QString &label : words(QString(editingKeys) + " Ok")) {
-        tap(m_keypad, label);
+        CHECKED(tap(m_keypad, label));
         QVERIFY2(field(Minute)->hasFocus(), qPrintable(label));
     }
 }
@@ -1054,7 +1054,7 @@ void tst_DateTimeKeypad::keysDoNothingWithoutFocus()
     for (int i = 0; i < FieldCount; ++i)
         field(i)->setPalette(blue);
 
-    tapAll(m_keypad, editingKeys);
+    CHECKED(tapAll(m_keypad, editingKeys));
     QCOMPARE(values(m_keypad), QString(valuesOfShownTime));
     QCOMPARE(display(m_keypad), QString(shownTime));
     for (int i = 0; i < FieldCount; ++i)
@@ -1151,7 +1151,7 @@ void tst_DateTimeKeypad::fieldIsMarked()
     QFETCH(QString, taps);
     m_keypad->setText(shownTime);
     focus(number);
-    tapAll(m_keypad, taps);
+    CHECKED(tapAll(m_keypad, taps));
     QTEST(field(number)->text(), "text");
     QTEST(mark(field(number)), "colour");
     for (int i = 0; i < FieldCount; ++i)
@@ -1175,7 +1175,7 @@ void tst_DateTimeKeypad::markIsTheActiveBaseAlone()
     expected.setColor(QPalette::Base, Qt::blue);
     field(Month)->setPalette(expected);
     focus(Month);
-    tap(m_keypad, tapped);
+    CHECKED(tap(m_keypad, tapped));
     expected.setBrush(QPalette::Active, QPalette::Base, QBrush(QColor(colour)));
     QCOMPARE(field(Month)->palette(), expected);
 }
@@ -1196,7 +1196,7 @@ void tst_DateTimeKeypad::finishedEditingTakesTheMarkAway()
     field(Month)->setPalette(red);
     m_keypad->setText(shownTime);
     focus(Month);
-    tapAll(m_keypad, "Delete 0");
+    CHECKED(tapAll(m_keypad, "Delete 0"));
     QCOMPARE(mark(field(Month)), QString(invalid));
     pressHardKey(m_keypad, hardKey);
 
@@ -1242,11 +1242,8 @@ void tst_DateTimeKeypad::okWritesTheDisplay()
     m_keypad->setText(text);
     QCOMPARE(target.text(), QString("old"));
 
-    bool leftOpen = true;
-    const int result = execWhile(
-        m_keypad, [this]() { tap(m_keypad, "Ok"); }, &leftOpen);
-    QCOMPARE(result, int(QDialog::Accepted));
-    QVERIFY(!leftOpen);
+    CHECKED(execWhile(
+        m_keypad, [this]() { CHECKED(tap(m_keypad, "Ok")); }, Accepts));
     QCOMPARE(target.text(), written);
     QCOMPARE(int(changes.count()), 1);
 }
@@ -1256,29 +1253,25 @@ void tst_DateTimeKeypad::okWritesAnyTextProperty()
     QObject target;
     m_keypad->setObject(&target);
     m_keypad->setText(shownTime);
-    tap(m_keypad, "Ok");
+    CHECKED(tap(m_keypad, "Ok"));
     QCOMPARE(target.property("text").toString(), QString(shownTime));
 }
 
 void tst_DateTimeKeypad::okWithoutTargetKeepsItOpen()
 {
-    bool leftOpen = false;
-    execWhile(
-        m_keypad, [this]() { tap(m_keypad, "Ok"); }, &leftOpen);
-    QVERIFY(leftOpen);
+    CHECKED(execWhile(
+        m_keypad, [this]() { CHECKED(tap(m_keypad, "Ok")); }, StaysOpen));
 }
 
 void tst_DateTimeKeypad::okAfterTheTargetIsGoneKeepsItOpen()
 {
     QScopedPointer<QLabel> target(new QLabel);
     m_keypad->setObject(target.data());
-    bool leftOpen = false;
     const std::function<void()> loseTheTarget = [&]() {
         target.reset();
-        tap(m_keypad, "Ok");
+        CHECKED(tap(m_keypad, "Ok"));
     };
-    execWhile(m_keypad, loseTheTarget, &leftOpen);
-    QVERIFY(leftOpen);
+    CHECKED(execWhile(m_keypad, loseTheTarget, StaysOpen));
 }
 
 void tst_DateTimeKeypad::cancelWritesNothing_data()
@@ -1299,15 +1292,13 @@ void tst_DateTimeKeypad::cancelWritesNothing()
         m_keypad->setObject(&target);
     m_keypad->setText(shownTime);
 
-    bool leftOpen = true;
     const std::function<void()> cancel = [&]() {
         if (byHardKey)
             pressHardKey(m_keypad, Qt::Key_Escape);
         else
-            tap(m_keypad, "Cancel");
+            CHECKED(tap(m_keypad, "Cancel"));
     };
-    QCOMPARE(execWhile(m_keypad, cancel, &leftOpen), int(QDialog::Rejected));
-    QVERIFY(!leftOpen);
+    CHECKED(execWhile(m_keypad, cancel, Rejects));
     QCOMPARE(target.text(), QString("old"));
 }
 
@@ -1316,14 +1307,12 @@ void tst_DateTimeKeypad::returnFinishesTheFieldAndKeepsItOpen()
     QLabel target("old");
     m_keypad->setObject(&target);
     m_keypad->setText(shownTime);
-    bool leftOpen = false;
     const std::function<void()> confirmByHardKey = [this]() {
         focus(Year);
-        tapAll(m_keypad, "2 0");
+        CHECKED(tapAll(m_keypad, "2 0"));
         pressHardKey(m_keypad, Qt::Key_Return);
     };
-    execWhile(m_keypad, confirmByHardKey, &leftOpen);
-    QVERIFY(leftOpen);
+    CHECKED(execWhile(m_keypad, confirmByHardKey, StaysOpen));
     QCOMPARE(target.text(), QString("old"));
     QCOMPARE(values(m_keypad), QString(valuesOfShownTime));
 }

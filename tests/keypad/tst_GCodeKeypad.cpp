@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/OpenKeypad.h"
+#include "support/KeypadStage.h"
 #include "support/QtDifferences.h"
 
 #include <HMIDevice/GCodeKeypad.h>
@@ -153,15 +153,16 @@ void tst_GCodeKeypad::characterKeysTypeTheirLabel()
 {
     QFETCH(QString, label);
     QFETCH(QString, typed);
-    OpenKeypad<GCodeKeypad> open(u("G01"));
-    tap(&open.keypad, label); // replaces the selection
-    QCOMPARE(open.line()->text(), typed);
-    tap(&open.keypad, label);
-    tap(&open.keypad, u("←"));
-    tap(&open.keypad, u("1"));
-    QCOMPARE(open.line()->text(), typed + u("1") + typed);
-    QCOMPARE(open.line()->cursorPosition(), 2);
-    QCOMPARE(open.target.text(), QString());
+    KeypadStage<GCodeKeypad> stage;
+    stage.open(u("G01"));
+    CHECKED(tap(&stage.keypad, label)); // replaces the selection
+    QCOMPARE(stage.line()->text(), typed);
+    CHECKED(tap(&stage.keypad, label));
+    CHECKED(tap(&stage.keypad, u("←")));
+    CHECKED(tap(&stage.keypad, u("1")));
+    QCOMPARE(stage.line()->text(), typed + u("1") + typed);
+    QCOMPARE(stage.line()->cursorPosition(), 2);
+    QCOMPARE(stage.target.text(), QString());
 }
 
 void tst_GCodeKeypad::editingKeysMoveAndErase_data()
@@ -184,50 +185,55 @@ void tst_GCodeKeypad::editingKeysMoveAndErase_data()
 void tst_GCodeKeypad::editingKeysMoveAndErase()
 {
     QFETCH(QString, keys);
-    OpenKeypad<GCodeKeypad> open(u("G01"));
-    tapAll(&open.keypad, keys);
-    QTEST(open.line()->text(), "text");
-    QTEST(open.line()->cursorPosition(), "cursor");
-    QVERIFY(!open.line()->hasSelectedText());
+    KeypadStage<GCodeKeypad> stage;
+    stage.open(u("G01"));
+    CHECKED(tapAll(&stage.keypad, keys));
+    QTEST(stage.line()->text(), "text");
+    QTEST(stage.line()->cursorPosition(), "cursor");
+    QVERIFY(!stage.line()->hasSelectedText());
 }
 
 void tst_GCodeKeypad::validatorAndMaximumLengthRefuseKeys()
 {
-    OpenKeypad<GCodeKeypad> open;
+    KeypadStage<GCodeKeypad> stage;
+    stage.open();
     QIntValidator validator(0, 9999, nullptr);
-    open.keypad.setValidator(&validator);
-    open.keypad.setMaxLength(3);
-    tapAll(&open.keypad, u("1 X $ - └──┘ 2 3 4"));
-    QCOMPARE(open.line()->text(), u("123"));
+    stage.keypad.setValidator(&validator);
+    stage.keypad.setMaxLength(3);
+    CHECKED(tapAll(&stage.keypad, u("1 X $ - └──┘ 2 3 4")));
+    QCOMPARE(stage.line()->text(), u("123"));
 }
 
 void tst_GCodeKeypad::typedBlockReachesTheTarget()
 {
-    OpenKeypad<GCodeKeypad> open(u("M30"));
-    open.keypad.hide();
-    const int result = execWhile(
-        &open.keypad, [&] { tapAll(&open.keypad, u("G 0 1 └──┘ X - 1 . 5 BSP 7 Enter")); });
-    QCOMPARE(result, int(QDialog::Accepted));
-    QCOMPARE(open.target.text(), u("G01 X-1.7"));
+    KeypadStage<GCodeKeypad> stage;
+    stage.open(u("M30"));
+    stage.keypad.hide();
+    CHECKED(execWhile(
+        &stage.keypad,
+        [&] { CHECKED(tapAll(&stage.keypad, u("G 0 1 └──┘ X - 1 . 5 BSP 7 Enter"))); }, Accepts));
+    QCOMPARE(stage.target.text(), u("G01 X-1.7"));
 }
 
 void tst_GCodeKeypad::escEndsTheEntry()
 {
-    OpenKeypad<GCodeKeypad> open(u("M30"));
-    open.keypad.hide();
-    const int result = execWhile(&open.keypad, [&] { tapAll(&open.keypad, u("G 0 ESC")); });
-    QCOMPARE(result, int(QDialog::Rejected));
-    QCOMPARE(open.target.text(), QString());
-    QCOMPARE(open.line()->text(), u("G0"));
+    KeypadStage<GCodeKeypad> stage;
+    stage.open(u("M30"));
+    stage.keypad.hide();
+    CHECKED(execWhile(
+        &stage.keypad, [&] { CHECKED(tapAll(&stage.keypad, u("G 0 ESC"))); }, Rejects));
+    QCOMPARE(stage.target.text(), QString());
+    QCOMPARE(stage.line()->text(), u("G0"));
 }
 
 void tst_GCodeKeypad::aCallWithoutKeyDoesNothing()
 {
-    OpenKeypad<GCodeKeypad> open(u("G01"));
-    QVERIFY(QMetaObject::invokeMethod(&open.keypad, "slot_toolButton_clicked"));
-    QVERIFY(open.keypad.isVisible());
-    QCOMPARE(open.line()->selectedText(), u("G01"));
-    QCOMPARE(open.target.text(), QString());
+    KeypadStage<GCodeKeypad> stage;
+    stage.open(u("G01"));
+    QVERIFY(QMetaObject::invokeMethod(&stage.keypad, "slot_toolButton_clicked"));
+    QVERIFY(stage.keypad.isVisible());
+    QCOMPARE(stage.line()->selectedText(), u("G01"));
+    QCOMPARE(stage.target.text(), QString());
 }
 
 // Its place
@@ -236,7 +242,8 @@ static QRect rectOver(GCodeKeypad *keypad, QObject *target)
 {
     keypad->setObject(target);
     QRect rect;
-    execWhile(keypad, [&] { rect = keypad->geometry(); });
+    execWhile(
+        keypad, [&] { rect = keypad->geometry(); }, StaysOpen);
     return rect;
 }
 
@@ -337,12 +344,14 @@ void tst_GCodeKeypad::leavesItsPlaceAloneForAnyOtherTarget()
     keypad.setObject(targets[target]);
     delete targets[2];
     QRect rect;
-    execWhile(&keypad, [&] { rect = keypad.geometry(); });
+    CHECKED(execWhile(
+        &keypad, [&] { rect = keypad.geometry(); }, StaysOpen));
     QCOMPARE(rect, placedByQt);
     QCOMPARE(rect.size(), QSize(320, 240));
 
     keypad.setGeometry(12, 34, 410, 220);
-    execWhile(&keypad, [&] { rect = keypad.geometry(); });
+    CHECKED(execWhile(
+        &keypad, [&] { rect = keypad.geometry(); }, StaysOpen));
     QCOMPARE(rect, QRect(12, 34, 410, 220));
 }
 

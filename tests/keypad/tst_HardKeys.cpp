@@ -11,14 +11,6 @@
 namespace {
 
 // clang-format off
-const int applicationKeys[] = {
-    Qt::Key_Up, Qt::Key_Down,
-    Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F4, Qt::Key_F5,
-    Qt::Key_F9, Qt::Key_F10, Qt::Key_F11, Qt::Key_F13,
-    Qt::Key_F17, Qt::Key_F18, Qt::Key_F20,
-    Qt::Key_F25, Qt::Key_F26, Qt::Key_F27, Qt::Key_F32
-};
-
 const int dialogKeys[] = {
     Qt::Key_F6, Qt::Key_F7, Qt::Key_F8, Qt::Key_F12, Qt::Key_F14, Qt::Key_F15, Qt::Key_F16,
     Qt::Key_F19, Qt::Key_F21, Qt::Key_F22, Qt::Key_F23, Qt::Key_F24, Qt::Key_F28, Qt::Key_F29,
@@ -27,9 +19,35 @@ const int dialogKeys[] = {
 };
 // clang-format on
 
+void addKeyRows(const QList<int> &keys)
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("key");
+    const DeviceType types[] = { 13, 1, 12, 14 };
+    for (DeviceType type : types) {
+        for (int key : keys) {
+            const QString name =
+                QString::fromLatin1("%1 on type %2").arg(QKeySequence(key).toString()).arg(type);
+            QTest::newRow(qPrintable(name)) << type << key;
+        }
+    }
+}
+
+// Whether an edit line takes the key for itself, as those of X11 take F18 to paste and F20 to cut.
+bool isEditingKey(int key)
+{
+    const QKeySequence::StandardKey editing[] = { QKeySequence::Undo, QKeySequence::Copy,
+                                                  QKeySequence::Cut, QKeySequence::Paste };
+    for (QKeySequence::StandardKey standardKey : editing) {
+        if (QKeySequence::keyBindings(standardKey).contains(QKeySequence(key)))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
-/* Notes what a keypad does, in the order in which it does it. */
+// Notes what a keypad does, in the order in which it does it.
 class Log : public QObject
 {
     Q_OBJECT
@@ -84,55 +102,25 @@ void tst_HardKeys::initTestCase_data()
     addKeypadRows();
 }
 
-static void addKeyRows(const int *keys, int count)
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("key");
-    const DeviceType types[] = { 13, 1, 12, 14 };
-    for (DeviceType type : types) {
-        for (int i = 0; i < count; ++i) {
-            const QString name = QString::fromLatin1("%1 on type %2")
-                                     .arg(QKeySequence(keys[i]).toString())
-                                     .arg(type);
-            QTest::newRow(qPrintable(name)) << type << keys[i];
-        }
-    }
-}
-
 void tst_HardKeys::applicationKeysCloseOnlyOnTypeThirteen_data()
 {
-    const int count = int(sizeof(applicationKeys) / sizeof(applicationKeys[0]));
-    QCOMPARE(count, 18);
-    addKeyRows(applicationKeys, count);
-}
-
-/* Whether an edit line takes the key for itself, as those of X11 take F18 to paste and F20 to cut.
- */
-static bool isEditingKey(int key)
-{
-    const QKeySequence::StandardKey editing[] = { QKeySequence::Undo, QKeySequence::Copy,
-                                                  QKeySequence::Cut, QKeySequence::Paste };
-    for (QKeySequence::StandardKey standardKey : editing) {
-        if (QKeySequence::keyBindings(standardKey).contains(QKeySequence(key)))
-            return true;
-    }
-    return false;
+    QCOMPARE(int(applicationKeys().size()), 18);
+    addKeyRows(applicationKeys());
 }
 
 void tst_HardKeys::applicationKeysCloseOnlyOnTypeThirteen()
 {
     QFETCH(int, type);
     QFETCH(int, key);
-    KeypadStage stage(type);
-    QLabel target(u("as it was"));
-    stage->setObject(&target);
-    stage->setText(u(currentKind().sampleText));
+    const bool handsOn = type == 13 && currentKind().has(TypesText);
+    AnyStage stage(type);
+    stage.target.setText(u("as it was"));
+    stage.keypad.setText(u(currentKind().sampleText));
     Log log(stage.dialog());
 
     QStringList done;
     const QWidget *focused = nullptr;
-    bool leftOpen = false;
-    const int result = execWhile(
+    CHECKED(execWhile(
         stage.dialog(),
         [&] {
             stage.activate();
@@ -143,48 +131,45 @@ void tst_HardKeys::applicationKeysCloseOnlyOnTypeThirteen()
                 pressHardKey(stage.dialog(), key);
             done = log.entries;
         },
-        &leftOpen);
+        handsOn ? Rejects : StaysOpen));
 
     QVERIFY(focused == stage.line() || !currentKind().has(TypesText));
-    const bool handsOn = type == 13 && currentKind().has(TypesText);
     QStringList expected;
     if (handsOn)
         expected << u("rejected") << QString::fromLatin1("key %1 of a keypad closed").arg(key);
     QCOMPARE(done, expected);
-    QCOMPARE(leftOpen, !handsOn);
-    QCOMPARE(result, int(QDialog::Rejected));
-    QCOMPARE(target.text(), u("as it was"));
+    QCOMPARE(stage.target.text(), u("as it was"));
 }
 
 void tst_HardKeys::otherKeysStayWithTheDialog_data()
 {
-    addKeyRows(dialogKeys, int(sizeof(dialogKeys) / sizeof(dialogKeys[0])));
+    QList<int> keys;
+    for (int key : dialogKeys)
+        keys << key;
+    addKeyRows(keys);
 }
 
 void tst_HardKeys::otherKeysStayWithTheDialog()
 {
     QFETCH(int, type);
     QFETCH(int, key);
-    KeypadStage stage(type);
-    QLabel target(u("as it was"));
-    stage->setObject(&target);
+    AnyStage stage(type);
+    stage.target.setText(u("as it was"));
     Log log(stage.dialog());
 
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
     QStringList done;
-    bool leftOpen = false;
-    execWhile(
+    CHECKED(execWhile(
         stage.dialog(),
         [&] {
             QApplication::sendEvent(stage.dialog(), &event);
             done = log.entries;
         },
-        &leftOpen);
+        StaysOpen));
 
-    QVERIFY(leftOpen);
     QCOMPARE(done, QStringList());
     QVERIFY(!event.isAccepted()); // as a dialog leaves a key that it has no use for
-    QCOMPARE(target.text(), u("as it was"));
+    QCOMPARE(stage.target.text(), u("as it was"));
 }
 
 void tst_HardKeys::aFocusedKeyLetsHardKeysThrough_data()
@@ -201,13 +186,10 @@ void tst_HardKeys::aFocusedKeyLetsHardKeysThrough()
 {
     QFETCH(int, key);
     QFETCH(bool, confirms);
-    KeypadStage stage(13);
-    QLabel target;
-    stage->setObject(&target);
-    stage->setText(u(currentKind().sampleText));
-
-    bool leftOpen = false;
-    const int result = execWhile(
+    const bool answers = currentKind().has(TypesText);
+    AnyStage stage(13);
+    stage.keypad.setText(u(currentKind().sampleText));
+    CHECKED(execWhile(
         stage.dialog(),
         [&] {
             stage.activate();
@@ -215,47 +197,44 @@ void tst_HardKeys::aFocusedKeyLetsHardKeysThrough()
             cancel->setFocus();
             QTest::keyClick(cancel, Qt::Key(key));
         },
-        &leftOpen);
-
-    const bool answers = currentKind().has(TypesText);
-    QCOMPARE(leftOpen, !answers);
-    QCOMPARE(result, int(answers && confirms ? QDialog::Accepted : QDialog::Rejected));
-    QCOMPARE(target.text(), answers && confirms ? u(currentKind().sampleText) : QString());
+        !answers       ? StaysOpen
+            : confirms ? Accepts
+                       : Rejects));
+    QCOMPARE(stage.target.text(), answers && confirms ? u(currentKind().sampleText) : QString());
 }
 
 void tst_HardKeys::theTypeIsReadAtEveryKey()
 {
-    KeypadStage stage(1);
+    AnyStage stage(1);
     Log log(stage.dialog());
-    bool openOnTypeOne = false;
-    bool leftOpen = false;
-    execWhile(
+    CHECKED(execWhile(
         stage.dialog(),
         [&] {
             pressHardKey(stage.dialog(), Qt::Key_F1);
-            openOnTypeOne = stage.dialog()->isVisible() && log.entries.isEmpty();
+            QVERIFY(stage.dialog()->isVisible());
+            QVERIFY(log.entries.isEmpty());
             HMIDeviceInfo::setDeviceInfo(13, QSize());
             pressHardKey(stage.dialog(), Qt::Key_F1);
         },
-        &leftOpen);
-    QVERIFY(openOnTypeOne);
-    QCOMPARE(leftOpen, !currentKind().has(TypesText));
+        currentKind().has(TypesText) ? Rejects : StaysOpen));
 
     HMIDeviceInfo::setDeviceInfo(2, QSize());
-    execWhile(
-        stage.dialog(), [&] { pressHardKey(stage.dialog(), Qt::Key_F1); }, &leftOpen);
-    QVERIFY(leftOpen);
+    CHECKED(execWhile(
+        stage.dialog(), [&] { pressHardKey(stage.dialog(), Qt::Key_F1); }, StaysOpen));
 }
 
 void tst_HardKeys::theKeyIsHandedOnBetweenClosingAndReturning()
 {
-    KeypadStage stage(13);
+    AnyStage stage(13);
     Log log(stage.dialog());
-    execWhile(stage.dialog(), [&] {
-        pressHardKey(stage.dialog(), Qt::Key_F1);
-        log.entries << u("key handled");
-        stage.dialog()->reject();
-    });
+    CHECKED(execWhile(
+        stage.dialog(),
+        [&] {
+            pressHardKey(stage.dialog(), Qt::Key_F1);
+            log.entries << u("key handled");
+            stage.dialog()->reject();
+        },
+        Rejects));
     log.entries << u("exec returned");
 
     QStringList expected;
@@ -267,14 +246,15 @@ void tst_HardKeys::theKeyIsHandedOnBetweenClosingAndReturning()
 
 void tst_HardKeys::confirmKeysAreConsumedWithoutTarget()
 {
-    KeypadStage stage;
+    PanelView view(1);
+    const QScopedPointer<AnyKeypad> keypad(currentKind().create(&view, Qt::WindowFlags()));
     const int keys[] = { Qt::Key_Return, Qt::Key_Enter };
     for (int key : keys) {
         QDialog plain;
         QKeyEvent forPlain(QEvent::KeyPress, key, Qt::NoModifier);
         QApplication::sendEvent(&plain, &forPlain);
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(stage.dialog(), &event);
+        QApplication::sendEvent(keypad->dialog(), &event);
         QCOMPARE(event.isAccepted(), currentKind().has(TypesText) || forPlain.isAccepted());
     }
 }

@@ -21,7 +21,8 @@ void tst_InstanceWithoutView::isAWindowOfItsOwnForGood()
     PanelView view(1);
     QVERIFY(NumericKeypad::instance() == keypad.data());
     QVERIFY(!keypad->parentWidget());
-    execWhile(keypad.data(), [&] { QCOMPARE(keypad->geometry(), view.coveredRect()); });
+    CHECKED(execWhile(
+        keypad.data(), [&] { QCOMPARE(keypad->geometry(), view.coveredRect()); }, StaysOpen));
 }
 
 QTEST_MAIN(tst_InstanceWithoutView)

@@ -53,7 +53,7 @@ void tst_KeypadClass::metaObjectHasExactlyThePromisedMembers()
         { "CharacterKeypad",
           "signal signal_kTypeKeyPressed(int) key|private slot sendContent(QString) text" },
     };
-    KeypadStage stage;
+    AnyStage stage;
     const QMetaObject *meta = stage.dialog()->metaObject();
     QCOMPARE(meta->className(), currentKind().className);
     QCOMPARE(meta->superClass()->className(), "QDialog");
@@ -73,7 +73,7 @@ void tst_KeypadClass::metaObjectHasExactlyThePromisedMembers()
 
 void tst_KeypadClass::theEditLineIsATypeOfItsOwn()
 {
-    KeypadStage stage;
+    AnyStage stage;
     const QMetaObject *meta = stage.line()->metaObject();
     QCOMPARE(meta->className(), "KeyBoardLineEdit");
     QCOMPARE(meta->superClass()->className(), "QLineEdit");
@@ -103,7 +103,7 @@ void tst_KeypadClass::isAFramelessDialogWithTheFlagsGiven()
     PanelView view(1);
     const Qt::WindowFlags flags[] = { Qt::WindowFlags(), Qt::WindowStaysOnTopHint,
                                       Qt::WindowStaysOnTopHint | Qt::WindowSystemMenuHint };
-    for (const Qt::WindowFlags given : flags) {
+    for (const Qt::WindowFlags &given : flags) {
         QScopedPointer<AnyKeypad> keypad(currentKind().create(&view, given));
         const QDialog plain(&view, given | Qt::FramelessWindowHint);
         QCOMPARE(int(keypad->dialog()->windowFlags()), int(plain.windowFlags()));
@@ -114,13 +114,14 @@ void tst_KeypadClass::isAFramelessDialogWithTheFlagsGiven()
 
 void tst_KeypadClass::isAChildOfItsParentAndModalWhileItRuns()
 {
-    KeypadStage stage;
-    QVERIFY(stage.dialog()->parentWidget() == stage.view());
+    AnyStage stage;
+    QVERIFY(stage.dialog()->parentWidget() == &stage.view);
     QVERIFY(stage.dialog()->isWindow());
     QVERIFY(!stage.dialog()->isVisible());
 
     Qt::WindowModality modality = Qt::NonModal;
-    execWhile(stage.dialog(), [&] { modality = stage.dialog()->windowModality(); });
+    CHECKED(execWhile(
+        stage.dialog(), [&] { modality = stage.dialog()->windowModality(); }, StaysOpen));
     QCOMPARE(int(modality), int(Qt::ApplicationModal));
 }
 

@@ -11,7 +11,7 @@ Q_DECLARE_METATYPE(PanelView::Frame)
 
 namespace {
 
-/* For a target that is a window: its rectangle, counted from the viewport's corner. */
+// For a target that is a window: its rectangle, counted from the viewport's corner.
 QRect targetRect(const QGraphicsView *view, const QWidget &target)
 {
     return target.geometry().translated(view->viewport()->mapToGlobal(QPoint(0, 0)));
@@ -25,7 +25,8 @@ QRect expectedRect(const QGraphicsView *view, const QWidget &target)
 QRect rectWhileOpen(QDialog *keypad)
 {
     QRect rect;
-    execWhile(keypad, [&] { rect = keypad->geometry(); });
+    execWhile(
+        keypad, [&] { rect = keypad->geometry(); }, StaysOpen);
     return rect;
 }
 
@@ -86,17 +87,17 @@ void tst_KeypadPlacement::coversExactlyWhatItShould()
     QFETCH(bool, limits);
     if (limits && !currentKind().has(FixedFace))
         HMI_SKIP("this keypad has no line for limits");
-    KeypadStage stage(10, size, frame);
+    AnyStage stage(10, size, frame);
     QLineEdit target;
     target.setGeometry(QRect(QPoint(20, 30), size / 2));
-    stage->setObject(&target);
+    stage.keypad.setObject(&target);
     if (limits)
-        stage->setLimitToolTip(u("-99999.999 … 99999.999"));
+        stage.keypad.setLimitToolTip(u("-99999.999 … 99999.999"));
 
-    const QRect expected = expectedRect(stage.view(), target);
+    const QRect expected = expectedRect(&stage.view, target);
     if (!currentKind().has(CoversTarget)) {
-        const QPoint shift(stage.view()->frameWidth(), stage.view()->frameWidth());
-        QCOMPARE(stage.view()->viewport()->pos(), shift);
+        const QPoint shift(stage.view.frameWidth(), stage.view.frameWidth());
+        QCOMPARE(stage.view.viewport()->pos(), shift);
     }
     QCOMPARE(rectWhileOpen(stage.dialog()), expected);
 }
@@ -113,61 +114,64 @@ void tst_KeypadPlacement::everyKeyHasRoomInside()
     QFETCH(bool, limits);
     if (limits && !currentKind().has(FixedFace))
         HMI_SKIP("this keypad has no line for limits");
-    KeypadStage stage(10, size, frame);
+    AnyStage stage(10, size, frame);
     QLineEdit target;
     target.setGeometry(QRect(QPoint(0, 0), size));
-    stage->setObject(&target);
+    stage.keypad.setObject(&target);
     if (limits)
-        stage->setLimitToolTip(u("-99999.999 … 99999.999"));
+        stage.keypad.setLimitToolTip(u("-99999.999 … 99999.999"));
 
     QStringList cramped;
     int visible = 0;
-    execWhile(stage.dialog(), [&] {
-        const QList<QToolButton *> keys = stage.dialog()->findChildren<QToolButton *>();
-        QRegion taken(QRect(QPoint(0, 0), stage.line()->size())
-                          .translated(stage.line()->mapTo(stage.dialog(), QPoint(0, 0))));
-        for (const QToolButton *key : keys) {
-            if (!key->isVisible())
-                continue;
-            ++visible;
-            const QRect rect(key->mapTo(stage.dialog(), QPoint(0, 0)), key->size());
-            const bool inside = stage.dialog()->rect().contains(rect);
-            if (!inside || rect.width() < 8 || rect.height() < 8 || taken.intersects(rect))
-                cramped << key->text();
-            taken += rect;
-        }
-    });
+    CHECKED(execWhile(
+        stage.dialog(),
+        [&] {
+            const QList<QToolButton *> keys = stage.dialog()->findChildren<QToolButton *>();
+            QRegion taken(QRect(QPoint(0, 0), stage.line()->size())
+                              .translated(stage.line()->mapTo(stage.dialog(), QPoint(0, 0))));
+            for (const QToolButton *key : keys) {
+                if (!key->isVisible())
+                    continue;
+                ++visible;
+                const QRect rect(key->mapTo(stage.dialog(), QPoint(0, 0)), key->size());
+                const bool inside = stage.dialog()->rect().contains(rect);
+                if (!inside || rect.width() < 8 || rect.height() < 8 || taken.intersects(rect))
+                    cramped << key->text();
+                taken += rect;
+            }
+        },
+        StaysOpen));
     QVERIFY(visible >= 15);
     QCOMPARE(cramped, QStringList());
 }
 
 void tst_KeypadPlacement::followsTheViewAtEveryShow()
 {
-    KeypadStage stage(10, QSize(800, 480));
+    AnyStage stage(10, QSize(800, 480));
     QLineEdit target;
     target.setGeometry(5, 6, 300, 100);
-    stage->setObject(&target);
-    QCOMPARE(rectWhileOpen(stage.dialog()), expectedRect(stage.view(), target));
+    stage.keypad.setObject(&target);
+    QCOMPARE(rectWhileOpen(stage.dialog()), expectedRect(&stage.view, target));
 
-    stage.view()->setGeometry(60, 70, 480, 272);
+    stage.view.setGeometry(60, 70, 480, 272);
     target.setGeometry(7, 8, 400, 90);
     QApplication::processEvents();
-    const QRect moved = expectedRect(stage.view(), target);
+    const QRect moved = expectedRect(&stage.view, target);
     QCOMPARE(rectWhileOpen(stage.dialog()), moved);
 
-    stage.view()->setFrameShape(QFrame::NoFrame);
+    stage.view.setFrameShape(QFrame::NoFrame);
     QApplication::processEvents();
-    const QRect frameless = expectedRect(stage.view(), target);
+    const QRect frameless = expectedRect(&stage.view, target);
     QVERIFY(frameless != moved);
     QCOMPARE(rectWhileOpen(stage.dialog()), frameless);
 }
 
 void tst_KeypadPlacement::followsTheViewThatIsRegisteredNow()
 {
-    KeypadStage stage(10, QSize(640, 480));
+    AnyStage stage(10, QSize(640, 480));
     QLineEdit target;
     target.setGeometry(5, 6, 300, 100);
-    stage->setObject(&target);
+    stage.keypad.setObject(&target);
 
     QGraphicsView other;
     other.setGeometry(30, 40, 320, 240);
@@ -175,7 +179,7 @@ void tst_KeypadPlacement::followsTheViewThatIsRegisteredNow()
     QApplication::processEvents();
     HMIDeviceInfo::setGraphicsView(&other);
     QCOMPARE(rectWhileOpen(stage.dialog()), expectedRect(&other, target));
-    QVERIFY(stage.dialog()->parentWidget() == stage.view());
+    QVERIFY(stage.dialog()->parentWidget() == &stage.view);
 }
 
 static AnyKeypad *newKeypadWithoutView()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/OpenKeypad.h"
+#include "support/KeypadStage.h"
 
 #include <HMIDevice/NumericKeypad.h>
 
@@ -135,9 +135,10 @@ void tst_NumericKeypad::modesDisableWhatTheBaseLacks()
 {
     QFETCH(int, mode);
     QFETCH(QString, enabled);
-    OpenKeypad<NumericKeypad> open;
-    open.keypad.setEditMode(mode);
-    QCOMPARE(enabledKeyLabels(&open.keypad).join(QLatin1String(" ")), enabled);
+    KeypadStage<NumericKeypad> stage;
+    stage.open();
+    stage.keypad.setEditMode(mode);
+    QCOMPARE(enabledKeyLabels(&stage.keypad).join(QLatin1String(" ")), enabled);
 }
 
 void tst_NumericKeypad::modesNeverEnable_data()
@@ -157,24 +158,26 @@ void tst_NumericKeypad::modesNeverEnable()
     QFETCH(int, first);
     QFETCH(int, second);
     QFETCH(QString, enabled);
-    OpenKeypad<NumericKeypad> open;
-    open.keypad.setEditMode(first);
-    open.keypad.setEditMode(second);
-    QCOMPARE(enabledKeyLabels(&open.keypad).join(QLatin1String(" ")), enabled);
+    KeypadStage<NumericKeypad> stage;
+    stage.open();
+    stage.keypad.setEditMode(first);
+    stage.keypad.setEditMode(second);
+    QCOMPARE(enabledKeyLabels(&stage.keypad).join(QLatin1String(" ")), enabled);
 }
 
 void tst_NumericKeypad::theDecimalPointIsSwitchedAlone()
 {
-    OpenKeypad<NumericKeypad> open;
+    KeypadStage<NumericKeypad> stage;
+    stage.open();
     QStringList withoutPoint = labelList(allLabels);
     withoutPoint.removeAll(u("."));
-    open.keypad.setDecimalPointEnabled(false);
-    QCOMPARE(enabledKeyLabels(&open.keypad), withoutPoint);
-    open.keypad.setDecimalPointEnabled(true);
-    QCOMPARE(enabledKeyLabels(&open.keypad), labelList(allLabels));
-    open.keypad.setEditMode(2);
-    open.keypad.setDecimalPointEnabled(true);
-    QCOMPARE(enabledKeyLabels(&open.keypad), labelList("1 ESC BSP 0 . ← → Enter"));
+    stage.keypad.setDecimalPointEnabled(false);
+    QCOMPARE(enabledKeyLabels(&stage.keypad), withoutPoint);
+    stage.keypad.setDecimalPointEnabled(true);
+    QCOMPARE(enabledKeyLabels(&stage.keypad), labelList(allLabels));
+    stage.keypad.setEditMode(2);
+    stage.keypad.setDecimalPointEnabled(true);
+    QCOMPARE(enabledKeyLabels(&stage.keypad), labelList("1 ESC BSP 0 . ← → Enter"));
 }
 
 void tst_NumericKeypad::insertingKeysTypeTheirLabel_data()
@@ -188,26 +191,28 @@ void tst_NumericKeypad::insertingKeysTypeTheirLabel_data()
 void tst_NumericKeypad::insertingKeysTypeTheirLabel()
 {
     QFETCH(QString, label);
-    OpenKeypad<NumericKeypad> open(u("12"));
-    tap(&open.keypad, label); // replaces the selection
-    QCOMPARE(open.line()->text(), label);
-    tap(&open.keypad, label);
-    QCOMPARE(open.line()->text(), label + label);
-    open.line()->setCursorPosition(1);
-    tap(&open.keypad, u("0"));
-    QCOMPARE(open.line()->text(), label + u("0") + label);
-    QCOMPARE(open.line()->cursorPosition(), 2);
+    KeypadStage<NumericKeypad> stage;
+    stage.open(u("12"));
+    CHECKED(tap(&stage.keypad, label)); // replaces the selection
+    QCOMPARE(stage.line()->text(), label);
+    CHECKED(tap(&stage.keypad, label));
+    QCOMPARE(stage.line()->text(), label + label);
+    stage.line()->setCursorPosition(1);
+    CHECKED(tap(&stage.keypad, u("0")));
+    QCOMPARE(stage.line()->text(), label + u("0") + label);
+    QCOMPARE(stage.line()->cursorPosition(), 2);
 }
 
 void tst_NumericKeypad::aDisabledKeyTypesNothing()
 {
-    OpenKeypad<NumericKeypad> open(u("12"));
-    open.keypad.setEditMode(2);
-    tapAll(&open.keypad, u("A 2 3 B 4 5 6 C 7 8 9 +/- D E F ."));
-    QCOMPARE(open.line()->text(), u("12"));
-    QCOMPARE(open.line()->selectedText(), u("12"));
-    tap(&open.keypad, u("1"));
-    QCOMPARE(open.line()->text(), u("1"));
+    KeypadStage<NumericKeypad> stage;
+    stage.open(u("12"));
+    stage.keypad.setEditMode(2);
+    CHECKED(tapAll(&stage.keypad, u("A 2 3 B 4 5 6 C 7 8 9 +/- D E F .")));
+    QCOMPARE(stage.line()->text(), u("12"));
+    QCOMPARE(stage.line()->selectedText(), u("12"));
+    CHECKED(tap(&stage.keypad, u("1")));
+    QCOMPARE(stage.line()->text(), u("1"));
 }
 
 void tst_NumericKeypad::editingKeysMoveAndErase_data()
@@ -232,54 +237,58 @@ void tst_NumericKeypad::editingKeysMoveAndErase_data()
 void tst_NumericKeypad::editingKeysMoveAndErase()
 {
     QFETCH(QString, keys);
-    OpenKeypad<NumericKeypad> open(u("123"));
-    tapAll(&open.keypad, keys);
-    QTEST(open.line()->text(), "text");
-    QTEST(open.line()->cursorPosition(), "cursor");
-    QVERIFY(!open.line()->hasSelectedText());
+    KeypadStage<NumericKeypad> stage;
+    stage.open(u("123"));
+    CHECKED(tapAll(&stage.keypad, keys));
+    QTEST(stage.line()->text(), "text");
+    QTEST(stage.line()->cursorPosition(), "cursor");
+    QVERIFY(!stage.line()->hasSelectedText());
 }
 
 void tst_NumericKeypad::validatorRefusesWhatItDoesNotAccept()
 {
-    OpenKeypad<NumericKeypad> open;
+    KeypadStage<NumericKeypad> stage;
+    stage.open();
     QIntValidator validator(0, 99, nullptr);
-    open.keypad.setValidator(&validator);
-    open.keypad.setText(u("5"));
-    open.line()->setCursorPosition(1);
-    tapAll(&open.keypad, u("A ."));
-    QCOMPARE(open.line()->text(), u("5"));
-    tapAll(&open.keypad, u("7 8"));
-    QCOMPARE(open.line()->text(), u("57"));
-    open.keypad.setValidator(nullptr);
-    tapAll(&open.keypad, u("8 A"));
-    QCOMPARE(open.line()->text(), u("578A"));
+    stage.keypad.setValidator(&validator);
+    stage.keypad.setText(u("5"));
+    stage.line()->setCursorPosition(1);
+    CHECKED(tapAll(&stage.keypad, u("A .")));
+    QCOMPARE(stage.line()->text(), u("5"));
+    CHECKED(tapAll(&stage.keypad, u("7 8")));
+    QCOMPARE(stage.line()->text(), u("57"));
+    stage.keypad.setValidator(nullptr);
+    CHECKED(tapAll(&stage.keypad, u("8 A")));
+    QCOMPARE(stage.line()->text(), u("578A"));
 }
 
 void tst_NumericKeypad::onlyTheValidatorStopsASecondPoint()
 {
-    OpenKeypad<NumericKeypad> open;
-    tapAll(&open.keypad, u("1 . . 5 ."));
-    QCOMPARE(open.line()->text(), u("1..5."));
+    KeypadStage<NumericKeypad> stage;
+    stage.open();
+    CHECKED(tapAll(&stage.keypad, u("1 . . 5 .")));
+    QCOMPARE(stage.line()->text(), u("1..5."));
 
     QDoubleValidator validator(nullptr);
     validator.setLocale(QLocale::c());
-    open.keypad.setText(QString());
-    open.keypad.setValidator(&validator);
-    tapAll(&open.keypad, u("1 . . 5 ."));
-    QCOMPARE(open.line()->text(), u("1.5"));
+    stage.keypad.setText(QString());
+    stage.keypad.setValidator(&validator);
+    CHECKED(tapAll(&stage.keypad, u("1 . . 5 .")));
+    QCOMPARE(stage.line()->text(), u("1.5"));
 }
 
 void tst_NumericKeypad::maximumLengthEndsTheEntry()
 {
-    OpenKeypad<NumericKeypad> open;
-    open.keypad.setMaxLength(3);
-    open.keypad.setText(u("12345"));
-    QCOMPARE(open.line()->text(), u("123"));
-    open.line()->setCursorPosition(3);
-    tap(&open.keypad, u("4"));
-    QCOMPARE(open.line()->text(), u("123"));
-    tapAll(&open.keypad, u("BSP 9 8"));
-    QCOMPARE(open.line()->text(), u("129"));
+    KeypadStage<NumericKeypad> stage;
+    stage.open();
+    stage.keypad.setMaxLength(3);
+    stage.keypad.setText(u("12345"));
+    QCOMPARE(stage.line()->text(), u("123"));
+    stage.line()->setCursorPosition(3);
+    CHECKED(tap(&stage.keypad, u("4")));
+    QCOMPARE(stage.line()->text(), u("123"));
+    CHECKED(tapAll(&stage.keypad, u("BSP 9 8")));
+    QCOMPARE(stage.line()->text(), u("129"));
 }
 
 void tst_NumericKeypad::typedValueReachesTheTarget()
@@ -290,8 +299,8 @@ void tst_NumericKeypad::typedValueReachesTheTarget()
     keypad.setObject(&field);
     keypad.setEditMode(10);
     keypad.setText(field.text());
-    const int result = execWhile(&keypad, [&] { tapAll(&keypad, u("1 2 . 5 +/- BSP 7 Enter")); });
-    QCOMPARE(result, int(QDialog::Accepted));
+    CHECKED(execWhile(
+        &keypad, [&] { CHECKED(tapAll(&keypad, u("1 2 . 5 +/- BSP 7 Enter"))); }, Accepts));
     QCOMPARE(field.text(), u("-12.7"));
 }
 
@@ -302,9 +311,11 @@ void tst_NumericKeypad::enterAndEscEndTheEntry()
     QLabel label(u("old"));
     keypad.setObject(&label);
     keypad.setText(u("7"));
-    QCOMPARE(execWhile(&keypad, [&] { tapAll(&keypad, u("8 ESC")); }), int(QDialog::Rejected));
+    CHECKED(execWhile(
+        &keypad, [&] { CHECKED(tapAll(&keypad, u("8 ESC"))); }, Rejects));
     QCOMPARE(label.text(), u("old"));
-    QCOMPARE(execWhile(&keypad, [&] { tapAll(&keypad, u("9 Enter")); }), int(QDialog::Accepted));
+    CHECKED(execWhile(
+        &keypad, [&] { CHECKED(tapAll(&keypad, u("9 Enter"))); }, Accepts));
     QCOMPARE(label.text(), u("89")); // the text waited in the edit line
 }
 
@@ -315,25 +326,28 @@ void tst_NumericKeypad::hardKeysTypeIntoTheSameLine()
     QLabel label;
     keypad.setObject(&label);
     keypad.setText(u("7"));
-    const int result = execWhile(&keypad, [&] {
-        QApplication::setActiveWindow(&keypad); // as the windowing system does
-        QVERIFY(keypad.focusWidget() == editLine(&keypad));
-        QTest::keyClicks(keypad.focusWidget(), u("42"));
-        tap(&keypad, u("+/-"));
-        pressHardKey(&keypad, Qt::Key_Return);
-    });
-    QCOMPARE(result, int(QDialog::Accepted));
+    CHECKED(execWhile(
+        &keypad,
+        [&] {
+            QApplication::setActiveWindow(&keypad); // as the windowing system does
+            QVERIFY(keypad.focusWidget() == editLine(&keypad));
+            QTest::keyClicks(keypad.focusWidget(), u("42"));
+            CHECKED(tap(&keypad, u("+/-")));
+            pressHardKey(&keypad, Qt::Key_Return);
+        },
+        Accepts));
     QCOMPARE(label.text(), u("-42"));
 }
 
 void tst_NumericKeypad::aCallWithoutKeyDoesNothing()
 {
-    OpenKeypad<NumericKeypad> open(u("12"));
-    QVERIFY(QMetaObject::invokeMethod(&open.keypad, "slot_toolButton_clicked"));
-    QVERIFY(open.keypad.isVisible());
-    QCOMPARE(open.line()->text(), u("12"));
-    QCOMPARE(open.line()->selectedText(), u("12"));
-    QCOMPARE(open.target.text(), QString());
+    KeypadStage<NumericKeypad> stage;
+    stage.open(u("12"));
+    QVERIFY(QMetaObject::invokeMethod(&stage.keypad, "slot_toolButton_clicked"));
+    QVERIFY(stage.keypad.isVisible());
+    QCOMPARE(stage.line()->text(), u("12"));
+    QCOMPARE(stage.line()->selectedText(), u("12"));
+    QCOMPARE(stage.target.text(), QString());
 }
 
 QTEST_MAIN(tst_NumericKeypad)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/OpenKeypad.h"
+#include "support/KeypadStage.h"
 
 #include <HMIDevice/NumericKeypad.h>
 #include <HMIDevice/vondKeypad.h>
@@ -25,34 +25,38 @@ private Q_SLOTS:
 
 namespace {
 
-/* A keypad that is open on a text, whichever of the two it is. */
-class Stage
+// A keypad that is open on a text, whichever of the two it is.
+class SignStage
 {
 public:
-    explicit Stage(const QString &text)
+    explicit SignStage(const QString &text)
     {
         QFETCH_GLOBAL(QString, keypad);
         QFETCH_GLOBAL(QString, signLabel);
         m_signLabel = signLabel;
         if (keypad == u("NumericKeypad"))
-            m_numeric.reset(new OpenKeypad<NumericKeypad>(text));
+            open(&m_numeric, text);
         else
-            m_axis.reset(new OpenKeypad<vondKeypad>(text));
+            open(&m_axis, text);
     }
 
-    void tapSign() { tap(keypad(), m_signLabel); }
-    void tapKey(const char *label) { tap(keypad(), u(label)); }
-    QLineEdit *line() { return editLine(keypad()); }
+    void tapSign() { CHECKED(tap(m_dialog, m_signLabel)); }
+    void tapKey(const char *label) { CHECKED(tap(m_dialog, u(label))); }
+    QLineEdit *line() { return editLine(m_dialog); }
 
 private:
-    QDialog *keypad()
+    template <class Stage>
+    void open(QScopedPointer<Stage> *stage, const QString &text)
     {
-        return m_numeric ? static_cast<QDialog *>(&m_numeric->keypad) : &m_axis->keypad;
+        stage->reset(new Stage);
+        (*stage)->open(text);
+        m_dialog = (*stage)->dialog();
     }
 
     QString m_signLabel;
-    QScopedPointer<OpenKeypad<NumericKeypad>> m_numeric;
-    QScopedPointer<OpenKeypad<vondKeypad>> m_axis;
+    QDialog *m_dialog;
+    QScopedPointer<KeypadStage<NumericKeypad>> m_numeric;
+    QScopedPointer<KeypadStage<vondKeypad>> m_axis;
 };
 
 } // namespace
@@ -100,11 +104,11 @@ void tst_SignKey::theLeadingMinusComesAndGoes()
     QFETCH(int, cursor);
     QFETCH(QString, newText);
     QFETCH(int, newCursor);
-    Stage stage(text);
+    SignStage stage(text);
     if (cursor >= 0)
         stage.line()->setCursorPosition(cursor);
 
-    stage.tapSign();
+    CHECKED(stage.tapSign());
 
     QCOMPARE(stage.line()->text(), newText);
     if (newCursor >= 0) {
@@ -117,11 +121,11 @@ void tst_SignKey::theLeadingMinusComesAndGoes()
 
 void tst_SignKey::twiceGivesTheSameTextAndCursor()
 {
-    Stage stage(u("12.5"));
+    SignStage stage(u("12.5"));
     for (int cursor = 0; cursor <= 4; ++cursor) {
         stage.line()->setCursorPosition(cursor);
-        stage.tapSign();
-        stage.tapSign();
+        CHECKED(stage.tapSign());
+        CHECKED(stage.tapSign());
         QCOMPARE(stage.line()->text(), u("12.5"));
         QCOMPARE(stage.line()->cursorPosition(), cursor);
     }
@@ -129,37 +133,37 @@ void tst_SignKey::twiceGivesTheSameTextAndCursor()
 
 void tst_SignKey::aToggledValueIsStillReplacedByTheNextDigit()
 {
-    Stage stage(u("3.5"));
-    stage.tapSign();
+    SignStage stage(u("3.5"));
+    CHECKED(stage.tapSign());
     QCOMPARE(stage.line()->selectedText(), u("-3.5"));
-    stage.tapKey("7");
+    CHECKED(stage.tapKey("7"));
     QCOMPARE(stage.line()->text(), u("7"));
 }
 
 void tst_SignKey::aPartSelectedBecomesAllSelected()
 {
-    Stage stage(u("123"));
+    SignStage stage(u("123"));
     stage.line()->setSelection(1, 1);
-    stage.tapSign();
+    CHECKED(stage.tapSign());
     QCOMPARE(stage.line()->selectedText(), u("-123"));
 }
 
 void tst_SignKey::theValidatorIsPassedBy()
 {
-    Stage stage(u("5"));
+    SignStage stage(u("5"));
     QIntValidator validator(0, 99, nullptr);
     stage.line()->setValidator(&validator);
-    stage.tapSign();
+    CHECKED(stage.tapSign());
     QCOMPARE(stage.line()->text(), u("-5"));
     QVERIFY(!stage.line()->hasAcceptableInput());
 }
 
 void tst_SignKey::theMaximumLengthCutsTheEnd()
 {
-    Stage stage(u("X12"));
+    SignStage stage(u("X12"));
     stage.line()->setMaxLength(3);
     stage.line()->setCursorPosition(3);
-    stage.tapSign();
+    CHECKED(stage.tapSign());
     QCOMPARE(stage.line()->text(), u("-X1"));
     QCOMPARE(stage.line()->cursorPosition(), 3);
 }

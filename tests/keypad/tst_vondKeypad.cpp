@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/OpenKeypad.h"
+#include "support/KeypadStage.h"
 #include "support/QtDifferences.h"
 
 #include <HMIDevice/vondKeypad.h>
@@ -87,9 +87,10 @@ void tst_vondKeypad::theTopLeftCellStaysEmpty()
 
 void tst_vondKeypad::columnsShareTheWidthEqually()
 {
-    OpenKeypad<vondKeypad> open;
-    const QGridLayout *grid = open.keypad.findChild<QGridLayout *>();
-    int narrowest = open.keypad.width();
+    KeypadStage<vondKeypad> stage;
+    stage.open();
+    const QGridLayout *grid = stage.keypad.findChild<QGridLayout *>();
+    int narrowest = stage.keypad.width();
     int widest = 0;
     for (int column = 0; column < 6; ++column) {
         QCOMPARE(grid->columnStretch(column), 0);
@@ -125,22 +126,24 @@ void tst_vondKeypad::insertingKeysTypeTheirLabel_data()
 void tst_vondKeypad::insertingKeysTypeTheirLabel()
 {
     QFETCH(QString, label);
-    OpenKeypad<vondKeypad> open(u("X5"));
-    tap(&open.keypad, label); // replaces the selection
-    QCOMPARE(open.line()->text(), label);
-    tap(&open.keypad, label);
-    tap(&open.keypad, u("←"));
-    tap(&open.keypad, u("1"));
-    QCOMPARE(open.line()->text(), label + u("1") + label);
-    QCOMPARE(open.line()->cursorPosition(), 2);
-    QCOMPARE(open.target.text(), QString());
+    KeypadStage<vondKeypad> stage;
+    stage.open(u("X5"));
+    CHECKED(tap(&stage.keypad, label)); // replaces the selection
+    QCOMPARE(stage.line()->text(), label);
+    CHECKED(tap(&stage.keypad, label));
+    CHECKED(tap(&stage.keypad, u("←")));
+    CHECKED(tap(&stage.keypad, u("1")));
+    QCOMPARE(stage.line()->text(), label + u("1") + label);
+    QCOMPARE(stage.line()->cursorPosition(), 2);
+    QCOMPARE(stage.target.text(), QString());
 }
 
 void tst_vondKeypad::theSpaceKeyTypesOneSpace()
 {
-    OpenKeypad<vondKeypad> open(u("X5"));
-    tapAll(&open.keypad, u("X 5 └─┘ Y 1"));
-    QCOMPARE(open.line()->text(), u("X5 Y1"));
+    KeypadStage<vondKeypad> stage;
+    stage.open(u("X5"));
+    CHECKED(tapAll(&stage.keypad, u("X 5 └─┘ Y 1")));
+    QCOMPARE(stage.line()->text(), u("X5 Y1"));
 }
 
 void tst_vondKeypad::editingKeysMoveAndErase_data()
@@ -162,50 +165,55 @@ void tst_vondKeypad::editingKeysMoveAndErase_data()
 void tst_vondKeypad::editingKeysMoveAndErase()
 {
     QFETCH(QString, keys);
-    OpenKeypad<vondKeypad> open(u("X12"));
-    tapAll(&open.keypad, keys);
-    QTEST(open.line()->text(), "text");
-    QTEST(open.line()->cursorPosition(), "cursor");
-    QVERIFY(!open.line()->hasSelectedText());
+    KeypadStage<vondKeypad> stage;
+    stage.open(u("X12"));
+    CHECKED(tapAll(&stage.keypad, keys));
+    QTEST(stage.line()->text(), "text");
+    QTEST(stage.line()->cursorPosition(), "cursor");
+    QVERIFY(!stage.line()->hasSelectedText());
 }
 
 void tst_vondKeypad::validatorAndMaximumLengthRefuseKeys()
 {
-    OpenKeypad<vondKeypad> open;
+    KeypadStage<vondKeypad> stage;
+    stage.open();
     QIntValidator validator(0, 9999, nullptr);
-    open.keypad.setValidator(&validator);
-    open.keypad.setMaxLength(3);
-    tapAll(&open.keypad, u("1 X . └─┘ 2 3 4"));
-    QCOMPARE(open.line()->text(), u("123"));
+    stage.keypad.setValidator(&validator);
+    stage.keypad.setMaxLength(3);
+    CHECKED(tapAll(&stage.keypad, u("1 X . └─┘ 2 3 4")));
+    QCOMPARE(stage.line()->text(), u("123"));
 }
 
 void tst_vondKeypad::typedAxisWordReachesTheTarget()
 {
-    OpenKeypad<vondKeypad> open(u("Z0"));
-    open.keypad.hide();
-    const int result =
-        execWhile(&open.keypad, [&] { tapAll(&open.keypad, u("X 1 2 . 5 - BSP 7 Enter")); });
-    QCOMPARE(result, int(QDialog::Accepted));
-    QCOMPARE(open.target.text(), u("-X12.7"));
+    KeypadStage<vondKeypad> stage;
+    stage.open(u("Z0"));
+    stage.keypad.hide();
+    CHECKED(execWhile(
+        &stage.keypad, [&] { CHECKED(tapAll(&stage.keypad, u("X 1 2 . 5 - BSP 7 Enter"))); },
+        Accepts));
+    QCOMPARE(stage.target.text(), u("-X12.7"));
 }
 
 void tst_vondKeypad::escEndsTheEntry()
 {
-    OpenKeypad<vondKeypad> open(u("Z0"));
-    open.keypad.hide();
-    const int result = execWhile(&open.keypad, [&] { tapAll(&open.keypad, u("X 1 ESC")); });
-    QCOMPARE(result, int(QDialog::Rejected));
-    QCOMPARE(open.target.text(), QString());
-    QCOMPARE(open.line()->text(), u("X1"));
+    KeypadStage<vondKeypad> stage;
+    stage.open(u("Z0"));
+    stage.keypad.hide();
+    CHECKED(execWhile(
+        &stage.keypad, [&] { CHECKED(tapAll(&stage.keypad, u("X 1 ESC"))); }, Rejects));
+    QCOMPARE(stage.target.text(), QString());
+    QCOMPARE(stage.line()->text(), u("X1"));
 }
 
 void tst_vondKeypad::aCallWithoutKeyDoesNothing()
 {
-    OpenKeypad<vondKeypad> open(u("X1"));
-    QVERIFY(QMetaObject::invokeMethod(&open.keypad, "slot_toolButton_clicked"));
-    QVERIFY(open.keypad.isVisible());
-    QCOMPARE(open.line()->selectedText(), u("X1"));
-    QCOMPARE(open.target.text(), QString());
+    KeypadStage<vondKeypad> stage;
+    stage.open(u("X1"));
+    QVERIFY(QMetaObject::invokeMethod(&stage.keypad, "slot_toolButton_clicked"));
+    QVERIFY(stage.keypad.isVisible());
+    QCOMPARE(stage.line()->selectedText(), u("X1"));
+    QCOMPARE(stage.target.text(), QString());
 }
 
 QTEST_MAIN(tst_vondKeypad)

@@ -17,7 +17,7 @@ auto limit(Keypad *keypad, const QString &text, int) -> decltype(keypad->setLimi
 
 void limit(QDialog *, const QString &, long)
 {
-    QFAIL("this keypad has no line for limits");
+    qFatal("this keypad has no line for limits");
 }
 
 template <class Keypad>
@@ -64,12 +64,24 @@ const KeypadKind keypadKinds[] = {
 
 } // namespace
 
-void addKeypadRows()
+void AnyKeypad::confirm()
+{
+    tap(dialog(), u(currentKind().confirmLabel));
+}
+
+void AnyKeypad::cancel()
+{
+    tap(dialog(), u(currentKind().cancelLabel));
+}
+
+void addKeypadRows(int traits)
 {
     QTest::addColumn<int>("keypad");
     const int count = int(sizeof(keypadKinds) / sizeof(keypadKinds[0]));
-    for (int i = 0; i < count; ++i)
-        QTest::newRow(keypadKinds[i].className) << i;
+    for (int i = 0; i < count; ++i) {
+        if ((keypadKinds[i].traits & traits) == traits)
+            QTest::newRow(keypadKinds[i].className) << i;
+    }
 }
 
 const KeypadKind &currentKind()
@@ -78,8 +90,7 @@ const KeypadKind &currentKind()
     return keypadKinds[keypad];
 }
 
-KeypadStage::KeypadStage(DeviceType type, const QSize &size, PanelView::Frame frame)
-    : m_view(type, size, frame)
-    , m_keypad(currentKind().create(&m_view, Qt::WindowFlags()))
+AnyKeypad *newKeypad(QWidget *parent, AnyKeypad *)
 {
+    return currentKind().create(parent, Qt::WindowFlags());
 }

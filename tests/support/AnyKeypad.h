@@ -2,16 +2,13 @@
 #ifndef ANYKEYPAD_H
 #define ANYKEYPAD_H
 
-#include "KeypadDriver.h"
-
-#include <QApplication>
-#include <QScopedPointer>
+#include "KeypadStage.h"
 
 class QValidator;
 
 // All five keypads as one, for tests of what they have in common.
 
-/* What an application calls on every keypad; the keypads share no base class but QDialog. */
+// What an application calls on every keypad; the keypads share no base class but QDialog.
 class AnyKeypad
 {
 public:
@@ -24,8 +21,12 @@ public:
     virtual void setValidator(const QValidator *validator) = 0;
     virtual void setPasswordEchoMode(bool on) = 0;
 
-    /* Only for keypads with a fixed face; fails the test on any other. */
+    // Only for keypads with a fixed face; fails the test on any other.
     virtual void setLimitToolTip(const QString &text) = 0;
+
+    // Tap the on-screen keys that end an entry. Assert that they are there.
+    void confirm();
+    void cancel();
 };
 
 enum KeypadTrait {
@@ -47,34 +48,20 @@ struct KeypadKind
     bool has(KeypadTrait trait) const { return (traits & trait) != 0; }
 };
 
-/* For initTestCase_data(): every test function then runs once for each keypad. */
-void addKeypadRows();
+// For initTestCase_data(): every test function then runs once for each keypad that has all \a
+// traits.
+void addKeypadRows(int traits = 0);
 
-/* The keypad that the current global row is about. */
+// The keypad that the current global row is about.
 const KeypadKind &currentKind();
 
-/* A new keypad of the current kind, over a panel of its own. */
-class KeypadStage
+// A stage's keypad is of the current kind.
+AnyKeypad *newKeypad(QWidget *parent, AnyKeypad *);
+inline QDialog *dialogOf(AnyKeypad &keypad)
 {
-public:
-    explicit KeypadStage(DeviceType type = 1, const QSize &size = QSize(640, 480),
-                         PanelView::Frame frame = PanelView::Framed);
+    return keypad.dialog();
+}
 
-    AnyKeypad *operator->() const { return m_keypad.data(); }
-    PanelView *view() { return &m_view; }
-    QDialog *dialog() const { return m_keypad->dialog(); }
-    KeyBoardLineEdit *line() const { return editLine(dialog()); }
-
-    /* Gives the shown keypad the keyboard, as the windowing system does some time after show. */
-    void activate() { QApplication::setActiveWindow(dialog()); }
-
-    /* The on-screen keys that end an entry. */
-    void confirm() { tap(dialog(), u(currentKind().confirmLabel)); }
-    void cancel() { tap(dialog(), u(currentKind().cancelLabel)); }
-
-private:
-    PanelView m_view;
-    QScopedPointer<AnyKeypad> m_keypad;
-};
+typedef KeypadStage<AnyKeypad> AnyStage;
 
 #endif

@@ -10,6 +10,8 @@
 
 namespace {
 
+const char *const outcomeNames[] = { "accepts", "rejects", "stays open" };
+
 class DuringExec : public QObject
 {
 public:
@@ -71,9 +73,9 @@ PanelView::~PanelView()
 QToolButton *key(const QWidget *keypad, const QString &label)
 {
     const QList<QToolButton *> keys = keypad->findChildren<QToolButton *>();
-    for (int i = 0; i < keys.size(); ++i) {
-        if (keys.at(i)->text() == label)
-            return keys.at(i);
+    for (QToolButton *key : keys) {
+        if (key->text() == label)
+            return key;
     }
     return nullptr;
 }
@@ -82,8 +84,8 @@ QStringList keyLabels(const QWidget *keypad)
 {
     QStringList labels;
     const QList<QToolButton *> keys = keypad->findChildren<QToolButton *>();
-    for (int i = 0; i < keys.size(); ++i)
-        labels << keys.at(i)->text();
+    for (const QToolButton *key : keys)
+        labels << key->text();
     return labels;
 }
 
@@ -91,9 +93,9 @@ QStringList enabledKeyLabels(const QWidget *keypad)
 {
     QStringList labels;
     const QList<QToolButton *> keys = keypad->findChildren<QToolButton *>();
-    for (int i = 0; i < keys.size(); ++i) {
-        if (keys.at(i)->isEnabled())
-            labels << keys.at(i)->text();
+    for (const QToolButton *key : keys) {
+        if (key->isEnabled())
+            labels << key->text();
     }
     return labels;
 }
@@ -129,8 +131,8 @@ void tap(QWidget *keypad, const QString &label)
 void tapAll(QWidget *keypad, const QString &labels)
 {
     const QStringList list = labels.split(QLatin1Char(' '));
-    for (int i = 0; i < list.size(); ++i)
-        tap(keypad, list.at(i));
+    for (const QString &label : list)
+        CHECKED(tap(keypad, label));
 }
 
 void pressHardKey(QWidget *keypad, int key)
@@ -139,11 +141,34 @@ void pressHardKey(QWidget *keypad, int key)
     QTest::keyClick(receiver ? receiver : keypad, Qt::Key(key));
 }
 
-int execWhile(QDialog *keypad, const std::function<void()> &actions, bool *leftOpen)
+QList<int> applicationKeys()
+{
+    // clang-format off
+    static const int keys[] = {
+        Qt::Key_Up, Qt::Key_Down,
+        Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F4, Qt::Key_F5,
+        Qt::Key_F9, Qt::Key_F10, Qt::Key_F11, Qt::Key_F13,
+        Qt::Key_F17, Qt::Key_F18, Qt::Key_F20,
+        Qt::Key_F25, Qt::Key_F26, Qt::Key_F27, Qt::Key_F32
+    };
+    // clang-format on
+    QList<int> list;
+    for (int key : keys)
+        list << key;
+    return list;
+}
+
+void execWhile(QDialog *keypad, const std::function<void()> &actions, Outcome expected)
 {
     DuringExec during(keypad, actions);
     const int result = keypad->exec();
-    if (leftOpen)
-        *leftOpen = during.leftOpen();
-    return result;
+    if (QTest::currentTestFailed())
+        return; // in the actions, which is why the keypad may be open
+    const Outcome found = result == QDialog::Accepted ? Accepts
+        : during.leftOpen()                           ? StaysOpen
+                                                      : Rejects;
+    QVERIFY2(found == expected,
+             qPrintable(QString::fromLatin1("the keypad %1 where it %2")
+                            .arg(QLatin1String(outcomeNames[found]))
+                            .arg(QLatin1String(outcomeNames[expected]))));
 }

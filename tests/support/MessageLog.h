@@ -6,7 +6,7 @@
 
 #include <QStringList>
 
-/* Keeps the messages that Qt or the library would print while it lives. One at a time. */
+// Keeps the messages that Qt or the library would print while it lives. One at a time.
 class MessageLog
 {
 public:

@@ -12,14 +12,14 @@
 
 // Everything in which Qt 4.8, 5 and 6 differ for the tests, once and by purpose.
 
-/* The signal with which a QSignalMapper sends the string that a sender is mapped to. */
+// The signal with which a QSignalMapper sends the string that a sender is mapped to.
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #define HMI_MAPPED_SIGNAL SIGNAL(mapped(QString))
 #else
 #define HMI_MAPPED_SIGNAL SIGNAL(mappedString(QString))
 #endif
 
-/* Skips the data row, which in Qt 4.8 is a mode of skipping. */
+// Skips the data row, which in Qt 4.8 is a mode of skipping.
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #define HMI_SKIP(reason) QSKIP(reason, SkipSingle)
 #else
@@ -28,7 +28,7 @@
 
 namespace QtDifferences {
 
-/* A function that is called with each message, and how to make it the one that is called. */
+// A function that is called with each message, and how to make it the one that is called.
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 typedef QtMsgHandler MessageHandler;
 #define HMI_MESSAGE_HANDLER(name, text) void name(QtMsgType, const char *text)
@@ -54,7 +54,7 @@ inline QString messageText(const QString &text)
 }
 #endif
 
-/* Makes the process read 8-bit literals as an application for Chinese panels does. */
+// Makes the process read 8-bit literals as an application for Chinese panels does.
 inline void readLiteralsAsGbk()
 {
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
@@ -62,7 +62,7 @@ inline void readLiteralsAsGbk()
 #endif
 }
 
-/* The name of a method and the types of its parameters, as in "setText(QString)". */
+// The name of a method and the types of its parameters, as in "setText(QString)".
 inline QByteArray methodSignature(const QMetaMethod &method)
 {
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
