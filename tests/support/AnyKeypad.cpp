@@ -10,17 +10,6 @@
 namespace {
 
 template <class Keypad>
-auto limit(Keypad *keypad, const QString &text, int) -> decltype(keypad->setLimitToolTip(text))
-{
-    keypad->setLimitToolTip(text);
-}
-
-void limit(QDialog *, const QString &, long)
-{
-    qFatal("this keypad has no line for limits");
-}
-
-template <class Keypad>
 class Adaptor : public AnyKeypad
 {
 public:
@@ -35,34 +24,50 @@ public:
     void setMaxLength(int length) override { m_keypad.setMaxLength(length); }
     void setValidator(const QValidator *v) override { m_keypad.setValidator(v); }
     void setPasswordEchoMode(bool on) override { m_keypad.setPasswordEchoMode(on); }
-    void setLimitToolTip(const QString &text) override { limit(&m_keypad, text, 0); }
 
-private:
+protected:
     Keypad m_keypad;
 };
 
 template <class Keypad>
+class FixedFaceAdaptor : public Adaptor<Keypad>
+{
+public:
+    FixedFaceAdaptor(QWidget *parent, Qt::WindowFlags flags)
+        : Adaptor<Keypad>(parent, flags)
+    {
+    }
+
+    void setLimitToolTip(const QString &text) override { this->m_keypad.setLimitToolTip(text); }
+};
+
+template <class AdaptorClass>
 AnyKeypad *create(QWidget *parent, Qt::WindowFlags flags)
 {
-    return new Adaptor<Keypad>(parent, flags);
+    return new AdaptorClass(parent, flags);
 }
 
 // clang-format off
 const KeypadKind keypadKinds[] = {
-    { "NumericKeypad", create<NumericKeypad>, "Enter", "ESC", "12.5", "-3",
-      FixedFace | TypesText },
-    { "GCodeKeypad", create<GCodeKeypad>, "Enter", "ESC", "G01X5", "M30",
-      FixedFace | TypesText | CoversTarget },
-    { "vondKeypad", create<vondKeypad>, "Enter", "ESC", "X12.5", "-Y3",
-      FixedFace | TypesText },
-    { "DateTimeKeypad", create<DateTimeKeypad>, "Ok", "Cancel",
+    { "NumericKeypad", create<FixedFaceAdaptor<NumericKeypad>>, "Enter", "ESC",
+      "12.5", "-3", FixedFace | TypesText },
+    { "GCodeKeypad", create<FixedFaceAdaptor<GCodeKeypad>>, "Enter", "ESC",
+      "G01X5", "M30", FixedFace | TypesText | CoversTarget },
+    { "vondKeypad", create<FixedFaceAdaptor<vondKeypad>>, "Enter", "ESC",
+      "X12.5", "-Y3", FixedFace | TypesText },
+    { "DateTimeKeypad", create<Adaptor<DateTimeKeypad>>, "Ok", "Cancel",
       "2024-02-29 12:34:56", "1999-12-31 23:59:59", 0 },
-    { "CharacterKeypad", create<CharacterKeypad>, "Enter", "Esc", "abc", "hello world",
-      TypesText }
+    { "CharacterKeypad", create<Adaptor<CharacterKeypad>>, "Enter", "Esc",
+      "abc", "hello world", TypesText }
 };
 // clang-format on
 
 } // namespace
+
+void AnyKeypad::setLimitToolTip(const QString &)
+{
+    qFatal("this keypad has no line for limits");
+}
 
 void AnyKeypad::confirm()
 {

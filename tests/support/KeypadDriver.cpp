@@ -158,6 +158,14 @@ QList<int> applicationKeys()
     return list;
 }
 
+QRect rectWhileShown(QDialog *dialog)
+{
+    dialog->show();
+    const QRect rect = dialog->geometry();
+    dialog->hide();
+    return rect;
+}
+
 void execWhile(QDialog *keypad, const std::function<void()> &actions, Outcome expected)
 {
     DuringExec during(keypad, actions);

@@ -73,6 +73,9 @@ void pressHardKey(QWidget *keypad, int key);
 // The eighteen hard keys that belong to the application on a panel of type 13.
 QList<int> applicationKeys();
 
+// The place that a dialog takes when it is shown. Hides it again.
+QRect rectWhileShown(QDialog *dialog);
+
 // How a run of a keypad ends: by the actions in it, or not at all.
 enum Outcome { Accepts, Rejects, StaysOpen };
 
