@@ -10,6 +10,16 @@
 
 namespace {
 
+// clang-format off
+const int hardKeys[] = {
+    Qt::Key_Up, Qt::Key_Down,
+    Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F4, Qt::Key_F5,
+    Qt::Key_F9, Qt::Key_F10, Qt::Key_F11, Qt::Key_F13,
+    Qt::Key_F17, Qt::Key_F18, Qt::Key_F20,
+    Qt::Key_F25, Qt::Key_F26, Qt::Key_F27, Qt::Key_F32
+};
+// clang-format on
+
 const char *const outcomeNames[] = { "accepts", "rejects", "stays open" };
 
 class DuringExec : public QObject
@@ -143,17 +153,8 @@ void pressHardKey(QWidget *keypad, int key)
 
 QList<int> applicationKeys()
 {
-    // clang-format off
-    static const int keys[] = {
-        Qt::Key_Up, Qt::Key_Down,
-        Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F4, Qt::Key_F5,
-        Qt::Key_F9, Qt::Key_F10, Qt::Key_F11, Qt::Key_F13,
-        Qt::Key_F17, Qt::Key_F18, Qt::Key_F20,
-        Qt::Key_F25, Qt::Key_F26, Qt::Key_F27, Qt::Key_F32
-    };
-    // clang-format on
     QList<int> list;
-    for (int key : keys)
+    for (int key : hardKeys)
         list << key;
     return list;
 }
