@@ -9,6 +9,10 @@ if(NOT HMI_QT_MAJOR MATCHES "^[456]$")
     message(FATAL_ERROR "HMI_QT_MAJOR is \"${HMI_QT_MAJOR}\"; it must be 4, 5 or 6.")
 endif()
 
+if(NOT DEFINED BUILD_SHARED_LIBS)
+    set(BUILD_SHARED_LIBS ON)
+endif()
+
 option(HMI_WERROR "Treat warnings as errors" OFF)
 option(HMI_BUILD_TESTS "Build the tests" ${HMI_TOP_LEVEL})
 option(HMI_BUILD_TRANSLATIONS "Compile and install the translations" ${HMI_TOP_LEVEL})

@@ -47,3 +47,9 @@ if(HMI_QT_MAJOR EQUAL 4)
 else()
     find_package(${HMI_QT} REQUIRED COMPONENTS ${modules})
 endif()
+
+# An archive leaves it to its users to link all that it needs.
+if(NOT BUILD_SHARED_LIBS)
+    string(APPEND HMI_QT_PC_REQUIRES " ${HMI_QT_PC_PRIVATE}")
+    set(HMI_QT_PC_PRIVATE "")
+endif()
