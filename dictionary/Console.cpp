@@ -5,14 +5,18 @@
 
 #include <unistd.h>
 
-static QString progressShown;
+namespace {
 
-static void write(FILE *stream, const QString &text)
+QString progressShown;
+
+void write(FILE *stream, const QString &text)
 {
     const QByteArray bytes = text.toLocal8Bit();
     fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
     fflush(stream);
 }
+
+} // namespace
 
 void Console::print(const QString &line)
 {
@@ -23,7 +27,7 @@ void Console::print(const QString &line)
 void Console::complain(const QString &line)
 {
     clearProgress();
-    write(stderr, QStringLiteral("hmi-dictionary: ") + line + QLatin1Char('\n'));
+    write(stderr, QLatin1String("hmi-dictionary: ") + line + QLatin1Char('\n'));
 }
 
 void Console::showProgress(const QString &what, qint64 done, qint64 total)
@@ -31,7 +35,7 @@ void Console::showProgress(const QString &what, qint64 done, qint64 total)
     static const bool onTerminal = isatty(STDERR_FILENO);
     if (!onTerminal || total <= 0)
         return;
-    const QString text = QStringLiteral("%1 %2%").arg(what).arg(done * 100 / total);
+    const QString text = QString::fromLatin1("%1 %2%").arg(what).arg(done * 100 / total);
     if (text != progressShown) {
         clearProgress();
         write(stderr, text);
@@ -42,7 +46,7 @@ void Console::showProgress(const QString &what, qint64 done, qint64 total)
 void Console::clearProgress()
 {
     if (!progressShown.isEmpty()) {
-        write(stderr, QStringLiteral("\r\033[K"));
+        write(stderr, QLatin1String("\r\033[K"));
         progressShown.clear();
     }
 }

@@ -5,22 +5,29 @@
 
 #include <QSqlError>
 
-static const char connectionName[] = "dictionary";
+namespace {
 
-static Failure failed(const QString &shownName, const QSqlError &error)
+const char connectionName[] = "dictionary";
+
+// SQLite would wait five seconds for a file that another program writes.
+const char withoutWaiting[] = "QSQLITE_BUSY_TIMEOUT=0";
+const char readOnly[] = ";QSQLITE_OPEN_READONLY";
+
+Failure failed(const QString &shownName, const QSqlError &error)
 {
     const QString text = error.databaseText().isEmpty() ? error.text() : error.databaseText();
-    return Failure { shownName + QStringLiteral(": ") + text };
+    return Failure { shownName + QLatin1String(": ") + text };
 }
+
+} // namespace
 
 Database::Database(const QString &fileName, Access access, const QString &shownName)
     : m_shownName(shownName)
-    , m_database(
-          QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QLatin1String(connectionName)))
+    , m_database(QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), QLatin1String(connectionName)))
 {
     m_database.setDatabaseName(fileName);
-    if (access == ReadOnly)
-        m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+    m_database.setConnectOptions(QLatin1String(withoutWaiting)
+                                 + QLatin1String(access == ReadOnly ? readOnly : ""));
     if (!m_database.open()) {
         const Failure failure = failed(m_shownName, m_database.lastError());
         m_database = QSqlDatabase();

@@ -6,13 +6,14 @@
 #include <QSqlQuery>
 #include <QVariant>
 
-/*! An open SQLite file, closed again with this object. Everything throws a Failure on error. */
+// An open SQLite file, closed again with this object. Everything throws a Failure on error, at
+// once when another program holds the file.
 class Database
 {
 public:
     enum Access { ReadOnly, ReadWrite };
 
-    /*! \a shownName is what messages call the file. */
+    // \a shownName is what messages call the file.
     Database(const QString &fileName, Access access, const QString &shownName);
     ~Database();
     Database(const Database &) = delete;

@@ -4,20 +4,16 @@
 
 #include <QStringList>
 
-/*! What a look at a dictionary has shown. */
+// What a look at a dictionary has shown.
 struct CheckReport
 {
     QStringList findings; // what would hurt an operator, a line each; empty when all is well
     qint64 rows = 0;
     int keys = 0;
-    int timedQueries = 0;
-    double slowestQuery = 0; // milliseconds
 };
 
-/*!
- * Reads the dictionary \a fileName as the keypad does: read-only, its table "pinyin" by column
- * position. Throws a Failure when that is not possible to the end.
- */
+// Reads the dictionary \a fileName as the keypad does: read-only, its table "pinyin" by column
+// position. Throws a Failure when that is not possible to the end.
 CheckReport checkDictionary(const QString &fileName);
 
 #endif

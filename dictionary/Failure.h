@@ -4,10 +4,8 @@
 
 #include <QString>
 
-/*!
- * Thrown when the work cannot be done. The message names the file, and the line where there is one.
- * Whoever holds something temporary removes it while this passes through.
- */
+// Thrown when the work cannot be done. The message names the file, and the line where there is one.
+// Whoever holds something temporary removes it while this passes through.
 struct Failure
 {
     QString message;

@@ -5,14 +5,16 @@
 
 #include <signal.h>
 
-static volatile sig_atomic_t interrupted = 0;
+namespace {
 
-extern "C" {
-static void remember(int)
+volatile sig_atomic_t interrupted = 0;
+
+void remember(int)
 {
     interrupted = 1;
 }
-}
+
+} // namespace
 
 void noticeInterruptions()
 {
@@ -26,5 +28,5 @@ void noticeInterruptions()
 void stopIfInterrupted()
 {
     if (interrupted)
-        throw Failure { QStringLiteral("interrupted") };
+        throw Failure { QLatin1String("interrupted") };
 }

@@ -4,18 +4,23 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
-static const char description[] =
+namespace {
+
+const char description[] =
     "Makes the pinyin dictionary of the character keypad from lists of Chinese words,\n"
     "or checks one.\n"
     "\n"
     "A word list is UTF-8 text with an entry a line: word, its syllables without tones\n"
     "separated by blanks (ü as v), and a weight, with a tab between them. Lines that\n"
     "begin with \"#\" and a header from \"---\" to \"...\" are passed over. A line that is\n"
-    "no entry is named and skipped.\n"
+    "no entry is named and skipped, such as one with a syllable too few or too many for\n"
+    "its Chinese characters.\n"
     "\n"
-    "The words of machine tools, which the program carries with it, rank above all\n"
-    "others; they are also installed as share/HMIDevice/machine-tool-words.tsv.\n"
-    "An existing dictionary is replaced only when the new one is complete.\n"
+    "Words of your own, given with --add, rank above the words of machine tools, which\n"
+    "the program carries with it, and these above the general ones. The words of\n"
+    "machine tools are also installed as share/HMIDevice/machine-tool-words.tsv.\n"
+    "An existing dictionary is replaced only when the new one is complete. Where the\n"
+    "output is a symbolic link, the file it leads to is replaced.\n"
     "\n"
     "Exit status: 0 when all is well, 1 after a failure or when a check has findings,\n"
     "2 after a usage error.";
@@ -32,6 +37,7 @@ struct OptionRow
 enum OptionIndex {
     Help,
     Version,
+    Add,
     Words,
     MachineToolWords,
     NoMachineToolWords,
@@ -40,11 +46,13 @@ enum OptionIndex {
     OptionCount
 };
 
-static const OptionRow rows[OptionCount] = {
+const OptionRow rows[OptionCount] = {
     { "h", "help", "Show this text.", nullptr, nullptr },
     { "v", "version", "Show the version.", nullptr, nullptr },
+    { nullptr, "add", "Add the words of this list to all others; may be repeated.", "FILE",
+      nullptr },
     { nullptr, "words",
-      "Take the general words from this list; may be repeated. Without it: " HMI_PINYIN_WORDS,
+      "Take the general words from this list alone; may be repeated. Without it: " HMI_PINYIN_WORDS,
       "FILE", HMI_PINYIN_WORDS },
     { nullptr, "machine-tool-words",
       "Take the words of machine tools from this list, not the program's own.", "FILE",
@@ -56,49 +64,48 @@ static const OptionRow rows[OptionCount] = {
       "FILE", nullptr }
 };
 
-static QString nameOf(OptionIndex index)
+QString nameOf(OptionIndex index)
 {
     return QLatin1String(rows[index].name);
 }
 
-static void addOptions(QCommandLineParser *parser)
+void addOptions(QCommandLineParser *parser)
 {
     for (const OptionRow &row : rows) {
         QStringList names(QLatin1String(row.name));
         if (row.letter)
             names.prepend(QLatin1String(row.letter));
-        QCommandLineOption option(names, QLatin1String(row.description));
+        QCommandLineOption option(names, QString::fromUtf8(row.description));
         if (row.valueName) {
             option.setValueName(QLatin1String(row.valueName));
-            option.setDefaultValue(QLatin1String(row.defaultValue));
+            option.setDefaultValue(QString::fromUtf8(row.defaultValue));
         }
         parser->addOption(option);
     }
 }
 
-/*! Says why the options do not go together; empty when they do. */
-static QString contradiction(const QCommandLineParser &parser)
+// Says why the options do not go together; empty when they do.
+QString contradiction(const QCommandLineParser &parser)
 {
     if (!parser.positionalArguments().isEmpty())
-        return QStringLiteral("unexpected argument: ") + parser.positionalArguments().first();
+        return QLatin1String("unexpected argument: ") + parser.positionalArguments().first();
     if (parser.isSet(nameOf(MachineToolWords)) && parser.isSet(nameOf(NoMachineToolWords))) {
-        return QStringLiteral(
-            "--machine-tool-words and --no-machine-tool-words exclude each other");
+        return QLatin1String("--machine-tool-words and --no-machine-tool-words exclude each other");
     }
     const bool checks = parser.isSet(nameOf(Check));
     for (int i = 0; i < OptionCount; ++i) {
         const OptionIndex index = OptionIndex(i);
         if (checks && index != Check && parser.isSet(nameOf(index)))
-            return QStringLiteral("--check goes with no other option");
+            return QLatin1String("--check goes with no other option");
         if (parser.isSet(nameOf(index)) && rows[i].valueName
             && parser.values(nameOf(index)).contains(QString())) {
-            return QStringLiteral("--%1 needs the name of a file").arg(nameOf(index));
+            return QString::fromLatin1("--%1 needs the name of a file").arg(nameOf(index));
         }
     }
     return QString();
 }
 
-static Options showText(const QString &text)
+Options showText(const QString &text)
 {
     Options options;
     options.task = Options::ShowText;
@@ -106,7 +113,7 @@ static Options showText(const QString &text)
     return options;
 }
 
-static Options refuse(const QString &reason)
+Options refuse(const QString &reason)
 {
     Options options;
     options.task = Options::RefuseUsage;
@@ -114,17 +121,20 @@ static Options refuse(const QString &reason)
     return options;
 }
 
-static Options asked(const QCommandLineParser &parser)
+Options asked(const QCommandLineParser &parser)
 {
     Options options;
     options.task = parser.isSet(nameOf(Check)) ? Options::CheckDictionary : Options::MakeDictionary;
     options.checkedFile = parser.value(nameOf(Check));
     options.output = parser.value(nameOf(Output));
-    options.words = parser.values(nameOf(Words));
+    options.ownWords = parser.values(nameOf(Add));
+    options.generalWords = parser.values(nameOf(Words));
     if (!parser.isSet(nameOf(NoMachineToolWords)))
         options.machineToolWords = parser.value(nameOf(MachineToolWords));
     return options;
 }
+
+} // namespace
 
 Options readOptions(const QStringList &arguments)
 {

@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/*! What the command line asks for. */
+// What the command line asks for.
 struct Options
 {
     enum Task { MakeDictionary, CheckDictionary, ShowText, RefuseUsage };
@@ -14,7 +14,8 @@ struct Options
     QString checkedFile;
     QString output;
     QString machineToolWords; // empty for none
-    QStringList words;
+    QStringList ownWords;
+    QStringList generalWords;
 };
 
 Options readOptions(const QStringList &arguments);

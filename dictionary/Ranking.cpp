@@ -7,9 +7,12 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cstring>
 #include <tuple>
 
-enum MatchKind { WholePinyin, Initials, Beginning };
+namespace {
+
+enum MatchKind { WholePinyin, BeginningWithAnInitial, Initials, Beginning };
 
 struct Match
 {
@@ -18,32 +21,56 @@ struct Match
     const WordEntry *entry; // within one array, so its address tells the order of reading
 };
 
-static bool ranksBefore(const Match &a, const Match &b)
+// A key of one letter needs no mention: words that are found by initials have two at least.
+bool isInitialOfTwoLetters(const QByteArray &key)
+{
+    return key == "zh" || key == "ch" || key == "sh";
+}
+
+bool isVowel(char letter)
+{
+    return std::strchr("aeiouv", letter);
+}
+
+MatchKind kindOfBeginning(const QByteArray &key)
+{
+    return isInitialOfTwoLetters(key) ? BeginningWithAnInitial : Beginning;
+}
+
+// Without a vowel a key is the whole pinyin of interjections only, and who types it types on.
+MatchKind kindOfWhole(const QByteArray &key)
+{
+    return std::any_of(key.begin(), key.end(), isVowel) ? WholePinyin : kindOfBeginning(key);
+}
+
+bool ranksBefore(const Match &a, const Match &b)
 {
     return std::tie(a.key, a.kind, a.entry->list, b.entry->weight, a.entry)
         < std::tie(b.key, b.kind, b.entry->list, a.entry->weight, b.entry);
 }
 
-static void addMatch(QVector<Match> *matches, const QByteArray &key, MatchKind kind,
-                     const WordEntry &entry)
+void addMatch(QVector<Match> *matches, const QByteArray &key, MatchKind kind,
+              const WordEntry &entry)
 {
     if (key.size() <= LongestKey)
         *matches << Match { key, kind, &entry };
 }
 
-static void addMatches(QVector<Match> *matches, const WordEntry &entry)
+void addMatches(QVector<Match> *matches, const WordEntry &entry)
 {
     const bool oneSyllable = entry.syllables.size() == 1;
     for (const QByteArray &pinyin : wholePinyin(entry.syllables)) {
-        addMatch(matches, pinyin, WholePinyin, entry);
-        for (int length = 1; oneSyllable && length < pinyin.size(); ++length)
-            addMatch(matches, pinyin.left(length), Beginning, entry);
+        addMatch(matches, pinyin, kindOfWhole(pinyin), entry);
+        for (int length = 1; oneSyllable && length < pinyin.size(); ++length) {
+            const QByteArray beginning = pinyin.left(length);
+            addMatch(matches, beginning, kindOfBeginning(beginning), entry);
+        }
     }
     if (!oneSyllable)
         addMatch(matches, initials(entry.syllables), Initials, entry);
 }
 
-static QVector<Match> sortedMatches(const QVector<WordEntry> &entries)
+QVector<Match> sortedMatches(const QVector<WordEntry> &entries)
 {
     QVector<Match> matches;
     for (const WordEntry &entry : entries)
@@ -52,12 +79,20 @@ static QVector<Match> sortedMatches(const QVector<WordEntry> &entries)
     return matches;
 }
 
+int mostRowsUpTo(MatchKind kind)
+{
+    return kind == BeginningWithAnInitial ? MostRowsBeforeInitials : MostRowsOfAKey;
+}
+
+} // namespace
+
 RankedRows ranked(const QVector<WordEntry> &entries)
 {
     RankedRows result = { QVector<DictionaryRow>(), 0 };
     QByteArray key;
     QSet<QString> candidates;
-    for (const Match &match : sortedMatches(entries)) {
+    const QVector<Match> matches = sortedMatches(entries);
+    for (const Match &match : matches) {
         stopIfInterrupted();
         if (match.key != key) {
             key = match.key;
@@ -65,7 +100,7 @@ RankedRows ranked(const QVector<WordEntry> &entries)
             ++result.keys;
         }
         const QString &word = match.entry->word;
-        if (candidates.size() < MostRowsOfAKey && !candidates.contains(word)) {
+        if (candidates.size() < mostRowsUpTo(match.kind) && !candidates.contains(word)) {
             candidates << word;
             result.rows << DictionaryRow { key, word };
         }

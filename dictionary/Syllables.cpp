@@ -5,20 +5,27 @@
 
 #include <algorithm>
 
+namespace {
+
 struct Spelling
 {
     const char *typed;
     const char *alsoTyped;
 };
 
-static const Spelling twoSpellings[] = { { "lve", "lue" }, { "nve", "nue" } };
+const Spelling twoSpellings[] = { { "lve", "lue" }, { "nve", "nue" } };
 
-static bool isLetter(char c)
+bool isLetter(char c)
 {
     return c >= 'a' && c <= 'z';
 }
 
-static QByteArray asTyped(const QString &syllable)
+bool isChinese(uint character)
+{
+    return QChar::script(character) == QChar::Script_Han;
+}
+
+QByteArray asTyped(const QString &syllable)
 {
     QString lower = syllable.toLower();
     const QByteArray letters = lower.replace(QChar(0xfc), QLatin1Char('v')).toUtf8();
@@ -29,7 +36,7 @@ static QByteArray asTyped(const QString &syllable)
     return letters;
 }
 
-static QByteArray alsoTyped(const QByteArray &syllable)
+QByteArray alsoTyped(const QByteArray &syllable)
 {
     for (const Spelling &spelling : twoSpellings) {
         if (syllable == spelling.typed)
@@ -38,10 +45,12 @@ static QByteArray alsoTyped(const QByteArray &syllable)
     return syllable;
 }
 
+} // namespace
+
 QStringList standardSyllables()
 {
     QStringList syllables;
-    QFile file(QStringLiteral(":/standard-syllables.txt"));
+    QFile file(QLatin1String(":/standard-syllables.txt"));
     file.open(QIODevice::ReadOnly);
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine()).simplified();
@@ -54,13 +63,22 @@ QStringList standardSyllables()
 Syllables readSyllables(const QString &text)
 {
     Syllables syllables;
-    for (const QString &part : text.simplified().split(QLatin1Char(' '))) {
+    const QStringList parts = text.simplified().split(QLatin1Char(' '));
+    for (const QString &part : parts) {
         const QByteArray syllable = asTyped(part);
         if (syllable.isEmpty() || !std::all_of(syllable.begin(), syllable.end(), isLetter))
             return Syllables();
         syllables += syllable;
     }
     return syllables;
+}
+
+bool fit(const Syllables &syllables, const QString &word)
+{
+    const auto characters = word.toUcs4();
+    const auto chinese = std::count_if(characters.begin(), characters.end(), isChinese);
+    return syllables.size() == chinese
+        || (syllables.size() > chinese && characters.size() > chinese);
 }
 
 QList<QByteArray> wholePinyin(const Syllables &syllables)

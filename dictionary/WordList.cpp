@@ -8,61 +8,69 @@
 
 #include <QDir>
 
-static const int longestLine = 4096; // bytes
-static const int mostComplaints = 20;
+namespace {
 
-static QString unreadable(const QFile &file)
+const int longestLine = 4096; // bytes
+const int mostComplaints = 20;
+
+QString unreadable(const QFile &file)
 {
-    return QStringLiteral("%1: cannot be read: %2")
+    return QString::fromLatin1("%1: cannot be read: %2")
         .arg(QDir::toNativeSeparators(file.fileName()), file.errorString());
 }
 
-static QString placeOf(const QFile &file, int lineNumber)
+QString placeOf(const QFile &file, int lineNumber)
 {
-    return QStringLiteral("%1:%2").arg(QDir::toNativeSeparators(file.fileName())).arg(lineNumber);
+    return QString::fromLatin1("%1:%2")
+        .arg(QDir::toNativeSeparators(file.fileName()))
+        .arg(lineNumber);
 }
 
-/*! At most longestLine bytes of the next line. */
-static QByteArray readOneLine(QFile *file)
+// At most longestLine bytes of the next line.
+QByteArray readOneLine(QFile *file)
 {
     return file->readLine(longestLine + 1); // Qt counts a terminating NUL
 }
 
-static QString decoded(QByteArray line, const QString &place)
+QString decoded(QByteArray line, const QString &place)
 {
     if (line.size() == longestLine && !line.endsWith('\n'))
-        throw Failure { place + QStringLiteral(": the line is too long; this is not a word list") };
+        throw Failure { place + QLatin1String(": the line is too long; this is not a word list") };
     if (line.startsWith("\xef\xbb\xbf"))
         line.remove(0, 3);
     const QString text = QString::fromUtf8(line);
     if (text.toUtf8() != line || line.contains('\0'))
-        throw Failure { place + QStringLiteral(": not UTF-8 text; convert the file to UTF-8") };
+        throw Failure { place + QLatin1String(": not UTF-8 text; convert the file to UTF-8") };
     return text;
 }
 
-/*! Says why \a columns make no entry; empty when they do and \a entry is filled in. */
-static QString fillIn(WordEntry *entry, const QStringList &columns)
+// Says why \a columns make no entry; empty when they do and \a entry is filled in.
+QString fillIn(WordEntry *entry, const QStringList &columns)
 {
     if (columns.size() < 3)
-        return QStringLiteral("fewer than three columns");
+        return QLatin1String("fewer than three columns");
     entry->word = columns.at(0).trimmed();
     entry->syllables = readSyllables(columns.at(1));
     bool isNumber = false;
     entry->weight = columns.at(2).trimmed().toLongLong(&isNumber);
     if (entry->word.isEmpty())
-        return QStringLiteral("no word");
+        return QLatin1String("no word");
     if (entry->word.toUcs4().size() > LongestCandidate)
-        return QStringLiteral("word of more than %1 characters").arg(int(LongestCandidate));
+        return QString::fromLatin1("word of more than %1 characters").arg(int(LongestCandidate));
     if (entry->syllables.isEmpty())
-        return QStringLiteral("syllables with other than letters");
+        return QLatin1String("syllables with other than letters");
+    if (!fit(entry->syllables, entry->word))
+        return QLatin1String("not one syllable for each Chinese character");
     if (!isNumber || entry->weight < 0)
-        return QStringLiteral("weight that is no whole number from 0");
+        return QLatin1String("weight that is no whole number from 0");
     if (wholePinyin(entry->syllables).first().size() > LongestKey
         && (entry->syllables.size() < 2 || entry->syllables.size() > LongestKey)) {
-        return QStringLiteral("no key of at most %1 letters").arg(int(LongestKey));
+        return QString::fromLatin1("no key of at most %1 letters").arg(int(LongestKey));
     }
     return QString();
 }
+
+} // namespace
 
 void WordList::read(const QString &fileName, ListRank list)
 {
@@ -74,7 +82,7 @@ void WordList::read(const QString &fileName, ListRank list)
     if (file.error() != QFile::NoError)
         throw Failure { unreadable(file) };
     if (m_entries.size() == before)
-        throw Failure { QDir::toNativeSeparators(fileName) + QStringLiteral(": holds no entry") };
+        throw Failure { QDir::toNativeSeparators(fileName) + QLatin1String(": holds no entry") };
 }
 
 void WordList::readLines(QFile &file, ListRank list)
@@ -96,11 +104,11 @@ void WordList::readLines(QFile &file, ListRank list)
             readLine(line, list, place);
             headerPossible = false;
         }
-        Console::showProgress(QStringLiteral("Reading words"), file.pos(), file.size());
+        Console::showProgress(QLatin1String("Reading words"), file.pos(), file.size());
     }
     if (headerStart) {
         throw Failure { placeOf(file, headerStart)
-                        + QStringLiteral(": no \"...\" ends the header") };
+                        + QLatin1String(": no \"...\" ends the header") };
     }
 }
 
@@ -121,8 +129,8 @@ void WordList::skip(const QString &place, const QString &reason)
     ++m_skippedLines[reason];
     ++m_skippedCount;
     if (m_skippedCount <= mostComplaints) {
-        Console::complain(QStringLiteral("%1: skipped: %2").arg(place, reason));
+        Console::complain(QString::fromLatin1("%1: skipped: %2").arg(place, reason));
     } else if (m_skippedCount == mostComplaints + 1) {
-        Console::complain(QStringLiteral("further skipped lines are only counted"));
+        Console::complain(QLatin1String("further skipped lines are only counted"));
     }
 }

@@ -12,27 +12,33 @@
 #include <QDir>
 #include <QFileInfo>
 
+namespace {
+
 enum ExitStatus { Fine = 0, FailureOrFindings = 1, WrongUsage = 2 };
 
-static void printSummary(const WordList &words, const RankedRows &ranking, const QString &fileName)
+void printSummary(const WordList &words, const RankedRows &ranking, const QString &fileName)
 {
-    Console::print(QStringLiteral("%1: %2 bytes")
+    Console::print(QString::fromLatin1("%1: %2 bytes")
                        .arg(QDir::toNativeSeparators(fileName))
                        .arg(QFileInfo(fileName).size()));
-    Console::print(QStringLiteral("entries read: %1").arg(words.entries().size()));
-    Console::print(QStringLiteral("keys: %1").arg(ranking.keys));
-    Console::print(QStringLiteral("rows: %1").arg(ranking.rows.size()));
-    Console::print(QStringLiteral("skipped lines: %1").arg(words.skippedCount()));
-    for (const QString &reason : words.skippedLines().keys())
-        Console::print(QStringLiteral("  %1: %2").arg(reason).arg(words.skippedLines()[reason]));
+    Console::print(QString::fromLatin1("entries read: %1").arg(words.entries().size()));
+    Console::print(QString::fromLatin1("keys: %1").arg(ranking.keys));
+    Console::print(QString::fromLatin1("rows: %1").arg(ranking.rows.size()));
+    Console::print(QString::fromLatin1("skipped lines: %1").arg(words.skippedCount()));
+    const QStringList reasons = words.skippedLines().keys();
+    for (const QString &reason : reasons)
+        Console::print(
+            QString::fromLatin1("  %1: %2").arg(reason).arg(words.skippedLines()[reason]));
 }
 
-static ExitStatus makeDictionary(const Options &options)
+ExitStatus makeDictionary(const Options &options)
 {
     WordList words;
+    for (const QString &fileName : options.ownWords)
+        words.read(fileName, OwnList);
     if (!options.machineToolWords.isEmpty())
         words.read(options.machineToolWords, MachineToolList);
-    for (const QString &fileName : options.words)
+    for (const QString &fileName : options.generalWords)
         words.read(fileName, GeneralList);
     const RankedRows ranking = ranked(words.entries());
     writeDictionary(options.output, ranking.rows);
@@ -40,29 +46,27 @@ static ExitStatus makeDictionary(const Options &options)
     return Fine;
 }
 
-static ExitStatus checkDictionaryFile(const QString &fileName)
+ExitStatus checkDictionaryFile(const QString &fileName)
 {
     const CheckReport report = checkDictionary(fileName);
     for (const QString &finding : report.findings)
         Console::print(finding);
-    Console::print(QStringLiteral("%1: keys: %2, rows: %3, slowest of %4 queries: %5 ms")
+    Console::print(QString::fromLatin1("%1: keys: %2, rows: %3")
                        .arg(QDir::toNativeSeparators(fileName))
                        .arg(report.keys)
-                       .arg(report.rows)
-                       .arg(report.timedQueries)
-                       .arg(report.slowestQuery, 0, 'f', 2));
-    Console::print(QStringLiteral("findings: %1").arg(report.findings.size()));
+                       .arg(report.rows));
+    Console::print(QString::fromLatin1("findings: %1").arg(report.findings.size()));
     return report.findings.isEmpty() ? Fine : FailureOrFindings;
 }
 
-static ExitStatus refuse(const QString &reason)
+ExitStatus refuse(const QString &reason)
 {
     Console::complain(reason);
-    Console::complain(QStringLiteral("see hmi-dictionary --help"));
+    Console::complain(QLatin1String("see hmi-dictionary --help"));
     return WrongUsage;
 }
 
-static ExitStatus run(const Options &options)
+ExitStatus run(const Options &options)
 {
     switch (options.task) {
     case Options::MakeDictionary:
@@ -78,11 +82,13 @@ static ExitStatus run(const Options &options)
     return refuse(options.text);
 }
 
+} // namespace
+
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("hmi-dictionary"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(HMI_VERSION));
+    QCoreApplication::setApplicationName(QLatin1String("hmi-dictionary"));
+    QCoreApplication::setApplicationVersion(QLatin1String(HMI_VERSION));
     noticeInterruptions();
     try {
         return run(readOptions(QCoreApplication::arguments()));

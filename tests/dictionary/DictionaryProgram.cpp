@@ -11,41 +11,61 @@
 #include <QVariant>
 #include <QtTest>
 
-static const int patience = 60000; // milliseconds
+namespace {
 
-/*! Runs the statements on one connection and returns the rows of the last one. */
-static QStringList runStatements(const QString &fileName, const QStringList &statements)
+const int patience = 60000; // milliseconds
+
+QString joinedColumns(const QSqlQuery &query)
 {
-    const QString connection = "test";
+    QStringList columns;
+    for (int i = 0; i < query.record().count(); ++i)
+        columns << query.value(i).toString();
+    return columns.join(QLatin1Char(' '));
+}
+
+// Runs the statements on one connection and returns the rows of the last one.
+QStringList runStatements(const QString &fileName, const QStringList &statements)
+{
+    const QString connection = u("test");
     QStringList rows;
     {
-        QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", connection);
+        QSqlDatabase database = QSqlDatabase::addDatabase(u("QSQLITE"), connection);
         database.setDatabaseName(fileName);
-        if (!database.open()) {
+        if (!database.open())
             qFatal("%s", qPrintable(database.lastError().text()));
-        }
         for (const QString &statement : statements) {
             rows.clear();
             QSqlQuery query(database);
-            if (!query.exec(statement)) {
+            if (!query.exec(statement))
                 qFatal("%s: %s", qPrintable(statement), qPrintable(query.lastError().text()));
-            }
-            while (query.next()) {
-                QStringList columns;
-                for (int i = 0; i < query.record().count(); ++i) {
-                    columns << query.value(i).toString();
-                }
-                rows << columns.join(' ');
-            }
+            while (query.next())
+                rows << joinedColumns(query);
         }
     }
     QSqlDatabase::removeDatabase(connection);
     return rows;
 }
 
-QString Workshop::path(const QString &name) const
+// The lines of a file that are neither empty nor comments.
+QStringList contentLines(const char *fileName)
 {
-    return m_directory.path() + '/' + name;
+    QFile file(u(fileName));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s: %s", fileName, qPrintable(file.errorString()));
+    QStringList lines;
+    while (!file.atEnd()) {
+        const QString line = QString::fromUtf8(file.readLine()).trimmed();
+        if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')))
+            lines << line;
+    }
+    return lines;
+}
+
+} // namespace
+
+QString Workshop::path(const char *name) const
+{
+    return m_directory.filePath(u(name));
 }
 
 QStringList Workshop::names() const
@@ -55,55 +75,56 @@ QStringList Workshop::names() const
                    QDir::Name);
 }
 
-QByteArray Workshop::bytes(const QString &name) const
+QByteArray Workshop::bytes(const char *name) const
 {
     QFile file(path(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void Workshop::write(const QString &name, const QByteArray &bytes) const
+void Workshop::write(const char *name, const QByteArray &bytes) const
 {
     QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        qFatal("%s", qPrintable(file.errorString()));
-    }
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("%s: %s", name, qPrintable(file.errorString()));
 }
 
-void Workshop::execute(const QString &name, const QStringList &statements) const
+void Workshop::execute(const QStringList &statements) const
 {
-    runStatements(path(name), statements);
+    runStatements(path("data.db"), statements);
 }
 
-QStringList Workshop::query(const QString &name, const QString &statement) const
+QStringList Workshop::query(const QString &statement) const
 {
-    return runStatements(path(name), QStringList(statement));
+    return runStatements(path("data.db"), QStringList(statement));
 }
 
-QStringList Workshop::candidates(const QString &name, const QString &key) const
+QStringList Workshop::candidates(const QString &key) const
 {
-    return query(name, QString("SELECT word FROM pinyin WHERE py == '%1'").arg(key));
+    return query(u("SELECT word FROM pinyin WHERE py == '%1'").arg(key));
 }
 
-void Workshop::start(QProcess *process, const QStringList &arguments) const
+void Workshop::prepare(QProcess *process, const QStringList &arguments) const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("LC_ALL", "C.UTF-8");
+    environment.insert(u("LC_ALL"), u("C.UTF-8"));
     process->setProcessEnvironment(environment);
     process->setWorkingDirectory(m_directory.path());
-    process->start(HMI_DICTIONARY_PROGRAM, arguments);
+    process->setProgram(u(HMI_DICTIONARY_PROGRAM));
+    process->setArguments(arguments);
 }
 
 ProgramRun Workshop::run(const QStringList &arguments) const
 {
     QProcess process;
-    start(&process, arguments);
+    prepare(&process, arguments);
+    process.start();
     return ended(&process);
 }
 
 ProgramRun Workshop::make(const QByteArray &list) const
 {
     write("list.tsv", list);
-    return run({ "--no-machine-tool-words", "--words", "list.tsv" });
+    return run(words("--no-machine-tool-words --words list.tsv"));
 }
 
 ProgramRun ended(QProcess *process)
@@ -115,32 +136,25 @@ ProgramRun ended(QProcess *process)
                         QString::fromUtf8(process->readAllStandardError()) };
 }
 
-QList<QStringList> listRows(const QString &fileName)
+QStringList words(const char *utf8)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("%s: %s", qPrintable(fileName), qPrintable(file.errorString()));
-    }
+    return u(utf8).split(QLatin1Char(' '));
+}
+
+QList<QStringList> listRows(const char *fileName)
+{
     QList<QStringList> rows;
-    while (!file.atEnd()) {
-        const QString line = QString::fromUtf8(file.readLine()).trimmed();
-        if (!line.startsWith('#') && line.contains('\t')) {
-            rows << line.split('\t');
-        }
+    const QStringList lines = contentLines(fileName);
+    for (const QString &line : lines) {
+        if (line.contains(QLatin1Char('\t')))
+            rows << line.split(QLatin1Char('\t'));
     }
     return rows;
 }
 
 QStringList standardSyllables()
 {
-    QFile file(HMI_DICTIONARY_SOURCES "/standard-syllables.txt");
-    QStringList syllables;
-    file.open(QIODevice::ReadOnly);
-    while (!file.atEnd()) {
-        const QString line = QString::fromUtf8(file.readLine()).simplified();
-        if (!line.isEmpty() && !line.startsWith('#')) {
-            syllables += line.split(' ');
-        }
-    }
-    return syllables;
+    return contentLines(HMI_DICTIONARY_SOURCES "/standard-syllables.txt")
+        .join(QLatin1Char(' '))
+        .split(QLatin1Char(' '));
 }
