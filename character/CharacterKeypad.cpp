@@ -127,7 +127,7 @@ CharacterKeypad::CharacterKeypad(QWidget *parent, Qt::WindowFlags flags)
     setUpEnglish();
     setUpConnect();
     openDb();
-    setFont(Keypad::font(Keypad::manyKeysPoints));
+    Keypad::setUpFonts(this, Keypad::manyKeysPoints);
 }
 
 CharacterKeypad::~CharacterKeypad()
@@ -172,6 +172,7 @@ void CharacterKeypad::keyPressEvent(QKeyEvent *event)
 
 void CharacterKeypad::showEvent(QShowEvent *event)
 {
+    Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
 }

@@ -7,6 +7,7 @@
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 
 namespace {
@@ -24,10 +25,13 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
-QToolButton *createPagingButton(QWidget *parent, const QString &label)
+QToolButton *createPagingButton(QWidget *parent, const char *label, const char *name,
+                                const QString &accessibleName)
 {
     QToolButton *button = new PagingButton(parent);
-    Keypad::setUpKey(button, label);
+    Keypad::setUpKey(button, QLatin1String(label));
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(accessibleName);
     return button;
 }
 
@@ -35,7 +39,7 @@ QToolButton *createPagingButton(QWidget *parent, const QString &label)
 template <class Label>
 Label *createLabel(QWidget *parent, int minimumWidthInLines)
 {
-    Label *label = new Keypad::FittedLabel<Label>(QString(), parent, minimumWidthInLines);
+    Label *label = new Keypad::FittedLabel<Label>(QString(), parent, minimumWidthInLines, 1);
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     Keypad::colourLabel(label);
@@ -49,16 +53,20 @@ ChnPanel::ChnPanel(QWidget *parent)
     , m_currentPage(0)
     , m_pageCount(0)
 {
-    m_previousButton = createPagingButton(this, QLatin1String("<"));
+    m_previousButton = createPagingButton(this, "<", "previousPageKey",
+                                          QCoreApplication::translate("Keypad", "Previous page"));
     m_pinyinLabel = createLabel<QLabel>(this, pinyinMinimumWidth);
+    m_pinyinLabel->setObjectName(QLatin1String("pinyinLabel"));
     QHBoxLayout *layout = new QHBoxLayout(this);
     layout->addWidget(m_previousButton);
     layout->addWidget(m_pinyinLabel);
     for (int i = 0; i < PageSize; ++i) {
         m_candidateLabels[i] = createLabel<ClickLabel>(this, candidateMinimumWidth);
+        m_candidateLabels[i]->setObjectName(QString::fromLatin1("candidate%1").arg(i + 1));
         layout->addWidget(m_candidateLabels[i]);
     }
-    m_nextButton = createPagingButton(this, QLatin1String(">"));
+    m_nextButton = createPagingButton(this, ">", "nextPageKey",
+                                      QCoreApplication::translate("Keypad", "Next page"));
     layout->addWidget(m_nextButton);
     hide();
 }

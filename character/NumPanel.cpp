@@ -12,6 +12,7 @@ NumPanel::NumPanel(QWidget *parent)
     QHBoxLayout *layout = new QHBoxLayout(this);
     for (int i = 0; i < DigitCount; ++i) {
         m_buttons[i] = Keypad::createKey(this, QString::number(i));
+        Keypad::nameKey(m_buttons[i], Keypad::InsertLabel, m_buttons[i]->text());
         layout->addWidget(m_buttons[i]);
     }
     hide();

@@ -17,9 +17,10 @@ const char connectionName[] = "pinyin";
 const char tableName[] = "pinyin";
 const int candidateColumn = 1;
 
-// Read-only, so that a missing file stays missing; no waiting, so that a key is never held up by a
-// process that writes the file.
-const char connectOptions[] = "QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=0";
+// No waiting, so that a key is never held up by a process that writes the file. Not read-only,
+// though nothing is written here: SQLite must be allowed to mend a file whose last writer was
+// killed, and an application may add words through the connection.
+const char connectOptions[] = "QSQLITE_BUSY_TIMEOUT=0";
 
 bool query(QSqlTableModel *model, const QString &filter)
 {
@@ -38,7 +39,7 @@ QSqlTableModel *open(QObject *parent)
         QSqlDatabase::addDatabase(QLatin1String(driverName), QLatin1String(connectionName));
     database.setDatabaseName(file);
     database.setConnectOptions(QLatin1String(connectOptions));
-    // Opening a pipe of that name would wait for a writer.
+    // Opening would make a missing file, and wait for the writer of a pipe.
     if (!QFileInfo(file).isFile() || !database.open())
         return nullptr;
     QSqlTableModel *model = new QSqlTableModel(parent, database);

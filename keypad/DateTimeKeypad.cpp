@@ -35,16 +35,17 @@ const QRgb invalidColour = qRgb(255, 153, 51); // orange
 // The hour reaches 24, which composes no time: the display is then empty.
 const struct
 {
+    const char *name;
     const char *label;
     int row, column; // of the label; the spin box follows it
     int minimum, maximum;
 } fieldCells[] = {
-    { QT_TRANSLATE_NOOP("DateTimeKeypad", "year:"),   0, 0, 1600, 9999 },
-    { QT_TRANSLATE_NOOP("DateTimeKeypad", "month:"),  1, 0,    1,   12 },
-    { QT_TRANSLATE_NOOP("DateTimeKeypad", "day:"),    2, 0,    1,   28 },
-    { QT_TRANSLATE_NOOP("DateTimeKeypad", "hour:"),   0, 2,    0,   24 },
-    { QT_TRANSLATE_NOOP("DateTimeKeypad", "minute:"), 1, 2,    0,   59 },
-    { QT_TRANSLATE_NOOP("DateTimeKeypad", "second:"), 2, 2,    0,   59 }
+    { "year",   QT_TRANSLATE_NOOP("DateTimeKeypad", "year:"),   0, 0, 1600, 9999 },
+    { "month",  QT_TRANSLATE_NOOP("DateTimeKeypad", "month:"),  1, 0,    1,   12 },
+    { "day",    QT_TRANSLATE_NOOP("DateTimeKeypad", "day:"),    2, 0,    1,   28 },
+    { "hour",   QT_TRANSLATE_NOOP("DateTimeKeypad", "hour:"),   0, 2,    0,   24 },
+    { "minute", QT_TRANSLATE_NOOP("DateTimeKeypad", "minute:"), 1, 2,    0,   59 },
+    { "second", QT_TRANSLATE_NOOP("DateTimeKeypad", "second:"), 2, 2,    0,   59 }
 };
 
 const char *const digitLabels[] = {
@@ -122,7 +123,7 @@ DateTimeKeypad::DateTimeKeypad(QWidget *parent, Qt::WindowFlags flags)
     layout->addLayout(displayAndDigits(), 2);
     layout->addLayout(labelledFields(), 3);
     layout->addLayout(commands(), 1);
-    setFont(Keypad::font(Keypad::manyKeysPoints));
+    Keypad::setUpFonts(this, Keypad::manyKeysPoints);
 }
 
 DateTimeKeypad::~DateTimeKeypad() = default;
@@ -184,6 +185,8 @@ QSpinBox *DateTimeKeypad::focusSpinBox()
 
 void DateTimeKeypad::showEvent(QShowEvent *event)
 {
+    focusEnabledField();
+    Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
 }
@@ -222,6 +225,7 @@ void DateTimeKeypad::slot_editingFinished()
 void DateTimeKeypad::setUpDisplay()
 {
     m_lineEdit = new KeyBoardLineEdit(this);
+    m_lineEdit->setObjectName(QLatin1String(Keypad::editLineName));
     m_lineEdit->setEnabled(false);
     m_lineEdit->setAlignment(Qt::AlignCenter);
     m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
@@ -231,6 +235,8 @@ void DateTimeKeypad::setUpFields()
 {
     for (int i = 0; i < FieldCount; ++i) {
         QSpinBox *field = new QSpinBox(this);
+        field->setObjectName(QLatin1String(fieldCells[i].name) + QLatin1String("Field"));
+        field->setAccessibleName(tr(fieldCells[i].label));
         field->setButtonSymbols(QAbstractSpinBox::NoButtons);
         field->setRange(fieldCells[i].minimum, fieldCells[i].maximum);
         field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
@@ -243,18 +249,19 @@ void DateTimeKeypad::setUpFields()
 void DateTimeKeypad::setUpButtons()
 {
     for (int i = 0; i < DigitCount; ++i)
-        m_digitButtons[i] = createButton(tr(digitLabels[i]));
-    m_plusButton = createButton(tr("+"));
-    m_minusButton = createButton(tr("-"));
-    m_deleteButton = createButton(tr("Delete"));
-    m_okButton = createButton(tr("Ok"));
-    m_cancelButton = createButton(tr("Cancel"));
+        m_digitButtons[i] = createButton(digitLabels[i], Keypad::InsertLabel);
+    m_plusButton = createButton(QT_TR_NOOP("+"), Keypad::InsertLabel);
+    m_minusButton = createButton(QT_TR_NOOP("-"), Keypad::InsertLabel);
+    m_deleteButton = createButton(QT_TR_NOOP("Delete"), Keypad::Backspace);
+    m_okButton = createButton(QT_TR_NOOP("Ok"), Keypad::Confirm);
+    m_cancelButton = createButton(QT_TR_NOOP("Cancel"), Keypad::Cancel);
 }
 
-QToolButton *DateTimeKeypad::createButton(const QString &label)
+QToolButton *DateTimeKeypad::createButton(const char *label, int action)
 {
     QToolButton *button = new Keypad::KeyButton(this);
-    button->setText(label);
+    button->setText(tr(label));
+    Keypad::nameKey(button, Keypad::KeyAction(action), QLatin1String(label));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     connect(button, SIGNAL(clicked()), this, SLOT(slot_toolButtonClicked()));
     return button;
@@ -275,7 +282,8 @@ QLayout *DateTimeKeypad::labelledFields()
     QGridLayout *grid = new QGridLayout;
     grid->setSpacing(Keypad::keySpacing);
     for (int i = 0; i < FieldCount; ++i) {
-        QLabel *label = new Keypad::FittedLabel<QLabel>(tr(fieldCells[i].label), this, 0);
+        QLabel *label = new Keypad::FittedLabel<QLabel>(tr(fieldCells[i].label), this, 0, 1);
+        label->setObjectName(QLatin1String(fieldCells[i].name) + QLatin1String("Label"));
         label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
         grid->addWidget(label, fieldCells[i].row, fieldCells[i].column);
         grid->addWidget(m_fields[i], fieldCells[i].row, fieldCells[i].column + 1);
@@ -293,6 +301,21 @@ QLayout *DateTimeKeypad::commands()
     row->addWidget(m_cancelButton);
     row->addWidget(m_okButton);
     return row;
+}
+
+// The field that had the focus may have been disabled since, by another format.
+void DateTimeKeypad::focusEnabledField()
+{
+    if (const QWidget *field = focusWidget()) {
+        if (field->isEnabled() && qobject_cast<const QSpinBox *>(field))
+            return;
+    }
+    for (QSpinBox *field : m_fields) {
+        if (field->isEnabled()) {
+            field->setFocus();
+            return;
+        }
+    }
 }
 
 QString DateTimeKeypad::composedText() const

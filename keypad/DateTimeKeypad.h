@@ -107,11 +107,12 @@ private:
     void setUpDisplay();
     void setUpFields();
     void setUpButtons();
-    QToolButton *createButton(const QString &label);
+    QToolButton *createButton(const char *label, int action);
     QLayout *displayAndDigits();
     QLayout *labelledFields();
     QLayout *commands();
 
+    void focusEnabledField();
     QString composedText() const;
     void edit(QSpinBox *field, const QObject *button);
     void pressKey(QSpinBox *field, int key, const QString &text);

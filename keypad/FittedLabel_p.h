@@ -3,48 +3,63 @@
 #define FITTEDLABEL_P_H
 
 #include <QLabel>
+#include <QPainter>
 
 namespace Keypad {
 
-// The pixels that the text of \a label needs in width; bounded, as it may be of any length.
-int textWidth(const QLabel *label);
+// The size at which \a label shows all of its text as any QLabel does, unless the text is longer
+// than any panel is wide.
+QSize plainSize(const QLabel *label);
 
-// Draws the text of \a label smaller and returns true if it would be clipped otherwise.
-bool paintFitted(QLabel *label);
+// \a plain, the plain size of \a label, but not higher than \a lines lines of text need.
+QSize boundedSize(const QLabel *label, QSize plain, int lines);
 
-// A label one line high that asks for the width of its text, and makes do with less.
+// Draws the text of \a label, which its size is too small for, smaller.
+void paintFittedText(QPainter *painter, const QLabel *label);
+
+// A label that makes do with less room than its text asks for. It looks as any label does; only a
+// text that would be clipped is drawn smaller.
 template <class Label>
 class FittedLabel : public Label
 {
 public:
-    // A layout that is short of room leaves the label \a minimumWidthInLines heights of a line.
-    FittedLabel(const QString &text, QWidget *parent, int minimumWidthInLines)
+    // The label asks for \a mostLines lines at most; a layout that is short of room leaves it half
+    // of them, and \a leastWidth heights of a line in width.
+    FittedLabel(const QString &text, QWidget *parent, int leastWidth, int mostLines)
         : Label(text, parent)
-        , m_minimumWidthInLines(minimumWidthInLines)
+        , m_leastWidth(leastWidth)
+        , m_mostLines(mostLines)
     {
     }
 
     QSize sizeHint() const override
     {
-        const QSize minimum = minimumSizeHint();
-        return QSize(qMax(minimum.width(), textWidth(this)), minimum.height());
+        return boundedSize(this, plainSize(this), m_mostLines).expandedTo(minimumSizeHint());
     }
 
     QSize minimumSizeHint() const override
     {
-        const int lineHeight = this->fontMetrics().height();
-        return QSize(m_minimumWidthInLines * lineHeight, lineHeight);
+        const int width = m_leastWidth * this->fontMetrics().height();
+        const QSize size(width, plainSize(this).height());
+        return boundedSize(this, size, (m_mostLines + 1) / 2);
     }
 
 protected:
     void paintEvent(QPaintEvent *event) override
     {
-        if (!paintFitted(this))
+        const QSize needed = plainSize(this);
+        if (needed.width() <= this->width() && needed.height() <= this->height()) {
             Label::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        this->drawFrame(&painter);
+        paintFittedText(&painter, this);
     }
 
 private:
-    int m_minimumWidthInLines;
+    int m_leastWidth;
+    int m_mostLines;
 };
 
 } // namespace Keypad

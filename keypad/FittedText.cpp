@@ -4,35 +4,54 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 
+#include <cmath>
+
 namespace Keypad {
 
 namespace {
 
 const int smallestPixelSize = 8;
-const int longestMeasuredText = 1000;
+
+// At least the pixel size that makes \a needed, measured at \a pixelSize, fit into \a room.
+int largestPixelSize(int pixelSize, const QSize &needed, const QSize &room)
+{
+    const double scale = qMin(double(room.width()) / qMax(1, needed.width()),
+                              double(room.height()) / qMax(1, needed.height()));
+    return int(std::ceil(pixelSize * scale)) + 1; // sizes do not quite follow the pixel size
+}
 
 } // namespace
 
-QString measurable(const QString &text)
-{
-    return text.left(longestMeasuredText);
-}
-
 QSize sizeOf(const QString &text, const QFont &font, int flags)
 {
-    return QFontMetrics(font).size(flags, measurable(text));
+    return QFontMetrics(font).size(flags, text.left(longestMeasuredText));
+}
+
+bool fits(const QSize &size, const QSize &room)
+{
+    return size.width() <= room.width() && size.height() <= room.height();
 }
 
 QFont fittedFont(const QFont &font, const QString &text, int flags, const QSize &room)
 {
     const QSize needed = sizeOf(text, font, flags);
-    if (needed.width() <= room.width() && needed.height() <= room.height())
+    if (fits(needed, room))
         return font;
-    const double scale = qMin(double(room.width()) / qMax(1, needed.width()),
-                              double(room.height()) / needed.height());
+    const int pixelSize = QFontInfo(font).pixelSize();
     QFont smaller(font);
-    smaller.setPixelSize(qMax(smallestPixelSize, int(QFontInfo(font).pixelSize() * scale)));
-    return smaller;
+    for (int size = qMin(pixelSize, largestPixelSize(pixelSize, needed, room));; --size) {
+        smaller.setPixelSize(qMax(size, smallestPixelSize));
+        if (size <= smallestPixelSize || fits(sizeOf(text, smaller, flags), room))
+            return smaller;
+    }
+}
+
+QString fittedText(const QFont &font, const QString &text, int flags, const QSize &room)
+{
+    const QString start = text.left(longestMeasuredText);
+    if (sizeOf(start, font, flags).width() <= room.width())
+        return start;
+    return QFontMetrics(font).elidedText(start, Qt::ElideRight, room.width(), flags);
 }
 
 } // namespace Keypad

@@ -149,6 +149,7 @@ void GCodeKeypad::keyPressEvent(QKeyEvent *event)
 
 void GCodeKeypad::showEvent(QShowEvent *event)
 {
+    Keypad::comeToFront(this);
     const QWidget *target = qobject_cast<QWidget *>(m_object.data());
     const QGraphicsView *view = HMIDeviceInfo::graphicsView();
     if (target && view) {

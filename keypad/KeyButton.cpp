@@ -10,7 +10,7 @@ namespace Keypad {
 
 namespace {
 
-const int frameWidth = 2; // pixels
+const int labelFlags = Qt::TextShowMnemonic;
 
 } // namespace
 
@@ -30,17 +30,38 @@ QSize KeyButton::minimumSizeHint() const
     return QSize(0, 0);
 }
 
-void KeyButton::paintEvent(QPaintEvent *)
+void KeyButton::paintEvent(QPaintEvent *event)
+{
+    const QRect rect = labelRect();
+    if (fits(sizeOf(text(), font(), labelFlags), rect.size())) {
+        QToolButton::paintEvent(event);
+        return;
+    }
+    // Drawn in two steps: with the whole button a style sheet would bring back its own font.
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    option.text.clear();
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
+
+    option.rect = rect;
+    option.font = fittedFont(font(), text(), labelFlags, rect.size());
+    option.fontMetrics = QFontMetrics(option.font);
+    option.text = fittedText(option.font, text(), labelFlags, rect.size());
+    painter.drawControl(QStyle::CE_ToolButtonLabel, option);
+}
+
+// Inside what a style sheet puts around a label, or else inside the style's frame, and a pixel off.
+QRect KeyButton::labelRect() const
 {
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    const QSize room = size() - QSize(2 * frameWidth, 2 * frameWidth);
-    option.font = fittedFont(font(), option.text, Qt::TextShowMnemonic, room);
-    option.fontMetrics = QFontMetrics(option.font);
-
-    QStylePainter painter(this);
-    painter.setFont(option.font);
-    painter.drawComplexControl(QStyle::CC_ToolButton, option);
+    QRect rect = style()->subElementRect(QStyle::SE_FrameContents, &option, this);
+    if (rect.isEmpty()) {
+        const int frame = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, this);
+        rect = option.rect.adjusted(frame, frame, -frame, -frame);
+    }
+    return rect.adjusted(1, 1, -1, -1);
 }
 
 } // namespace Keypad

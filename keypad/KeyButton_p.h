@@ -6,7 +6,8 @@
 
 namespace Keypad {
 
-// A key whose size does not depend on its label, which is drawn smaller rather than clipped.
+// A key whose size does not depend on its label. It looks as any tool button does; only a label
+// that would be clipped is drawn smaller.
 class KeyButton : public QToolButton
 {
 public:
@@ -17,6 +18,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QRect labelRect() const;
 };
 
 } // namespace Keypad

@@ -4,6 +4,7 @@
 #include "KeypadLook_p.h"
 #include "QtDifferences_p.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QGridLayout>
 #include <QToolButton>
@@ -11,6 +12,48 @@
 namespace Keypad {
 
 namespace {
+
+// clang-format off
+const struct
+{
+    KeyAction action;
+    const char *objectName;
+    const char *accessibleName; // null where the label says it
+} actionNames[] = {
+    { InsertSpace,    "spaceKey",     QT_TRANSLATE_NOOP("Keypad", "Space")        },
+    { ToggleSign,     "signKey",      QT_TRANSLATE_NOOP("Keypad", "Sign")         },
+    { MoveLeft,       "leftKey",      QT_TRANSLATE_NOOP("Keypad", "Cursor left")  },
+    { MoveRight,      "rightKey",     QT_TRANSLATE_NOOP("Keypad", "Cursor right") },
+    { Backspace,      "backspaceKey", QT_TRANSLATE_NOOP("Keypad", "Backspace")    },
+    { Cancel,         "escKey",       nullptr                                     },
+    { Confirm,        "enterKey",     nullptr                                     },
+    { SwitchCase,     "capsKey",      nullptr                                     },
+    { SwitchLanguage, "languageKey",  nullptr                                     },
+    { SwitchSymbols,  "symbolsKey",   nullptr                                     }
+};
+
+// A style sheet could not name a key by these labels.
+const struct
+{
+    char label;
+    const char *objectName;
+} signNames[] = {
+    { '.', "pointKey"  },
+    { ',', "commaKey"  },
+    { '$', "dollarKey" },
+    { '+', "plusKey"   },
+    { '-', "minusKey"  }
+};
+// clang-format on
+
+QString nameByLabel(const QString &label)
+{
+    for (const auto &sign : signNames) {
+        if (label == QString(QLatin1Char(sign.label)))
+            return QLatin1String(sign.objectName);
+    }
+    return QLatin1String("key") + label.toUpper();
+}
 
 // Only the arrows can be translated, for fonts that lack them.
 QString labelText(const KeyCell &cell)
@@ -22,10 +65,23 @@ QString labelText(const KeyCell &cell)
 
 } // namespace
 
+void nameKey(QToolButton *key, KeyAction action, const QString &label)
+{
+    key->setObjectName(nameByLabel(label));
+    for (const auto &name : actionNames) {
+        if (name.action != action)
+            continue;
+        key->setObjectName(QLatin1String(name.objectName));
+        if (name.accessibleName)
+            key->setAccessibleName(QCoreApplication::translate("Keypad", name.accessibleName));
+    }
+}
+
 void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, const KeyMembers &members)
 {
     for (int i = 0; i < members.size(); ++i) {
         QToolButton *key = createKey(keypad, labelText(cells[i]));
+        nameKey(key, cells[i].action, key->text());
         grid->addWidget(key, cells[i].row, cells[i].column, 1, cells[i].columnSpan);
         *members.at(i) = key;
     }

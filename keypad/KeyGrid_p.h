@@ -7,6 +7,7 @@
 class QDialog;
 class QGridLayout;
 class QObject;
+class QString;
 class QToolButton;
 
 // A keypad's face as a table: one row a key, in the order in which the keys are created. A key is
@@ -35,6 +36,10 @@ struct KeyCell
     int columnSpan;    // at least 1
     KeyAction action;
 };
+
+// Names \a key by what it does, or else by \a label, the one that it has at first: its object name,
+// the same in every keypad, and an accessible name where its label is but a sign.
+void nameKey(QToolButton *key, KeyAction action, const QString &label);
 
 // Where a keypad keeps its keys, in the order of their cells.
 typedef QVector<QToolButton **> KeyMembers;

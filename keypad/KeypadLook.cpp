@@ -6,10 +6,14 @@
 #include "KeyBoardLineEdit.h"
 #include "KeyButton_p.h"
 
+#include <QAbstractSpinBox>
 #include <QDialog>
+#include <QEvent>
+#include <QFont>
 #include <QFontInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QList>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -24,6 +28,7 @@ const QRgb green = qRgb(0, 255, 0);
 const QRgb yellow = qRgb(255, 255, 0);
 
 const int tipPoints = 20;
+const int mostLimitLines = 6;       // so that there is room for keys
 const QSize unplacedSize(320, 240); // pixels, until the first placement over a view
 
 struct RoleColour
@@ -58,10 +63,87 @@ void applyDarkScheme(QWidget *widget, const RoleColour (&colours)[count])
     widget->setPalette(palette);
 }
 
+// Sets what \a font has by default, so that nothing of it is left to the application's own font.
+void settle(QFont *font)
+{
+    font->setWeight(QFont::Normal);
+    font->setStyle(font->style());
+    font->setStretch(font->stretch());
+    font->setUnderline(font->underline());
+    font->setOverline(font->overline());
+    font->setStrikeOut(font->strikeOut());
+    font->setKerning(font->kerning());
+    font->setCapitalization(font->capitalization());
+    font->setLetterSpacing(font->letterSpacingType(), font->letterSpacing());
+    font->setWordSpacing(font->wordSpacing());
+}
+
+QFont font(int points)
+{
+    const QString family = QFontInfo(QFont(QLatin1String("simsun"))).family();
+    QFont font(family, points);
+    font.setPixelSize(qRound(points * 96 / 72.0f));
+    settle(&font);
+    return font;
+}
+
+// The widgets of \a keypad, without those inside a spin box, which take its font.
+QList<QWidget *> partsOf(const QDialog *keypad)
+{
+    QList<QWidget *> parts;
+    const QList<QWidget *> widgets = keypad->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (!qobject_cast<QAbstractSpinBox *>(widget->parentWidget()))
+            parts << widget;
+    }
+    return parts;
+}
+
+// Sets a keypad's font on each of its parts. Where there is a style sheet, which may come at any
+// time, a part inherits no font, but one that is set on it stays.
+class FontShare : public QObject
+{
+public:
+    explicit FontShare(QDialog *keypad)
+        : QObject(keypad)
+        , m_keypad(keypad)
+        , m_shared(keypad->font())
+    {
+        const QList<QWidget *> parts = partsOf(keypad);
+        for (QWidget *part : parts)
+            part->setFont(m_shared);
+        keypad->installEventFilter(this);
+    }
+
+    // A font that a style sheet gives the dialog is for the dialog alone.
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::FontChange && !m_keypad->testAttribute(Qt::WA_StyleSheet))
+            replaceShared(m_keypad->font());
+        return false;
+    }
+
+private:
+    // A part that was given a font of its own keeps it.
+    void replaceShared(const QFont &font)
+    {
+        const QList<QWidget *> parts = partsOf(m_keypad);
+        for (QWidget *part : parts) {
+            if (part->font() == m_shared)
+                part->setFont(font);
+        }
+        m_shared = font;
+    }
+
+    QDialog *m_keypad;
+    QFont m_shared;
+};
+
 QLabel *createTipLabel(QDialog *keypad)
 {
-    QLabel *label = new FittedLabel<QLabel>(QString(), keypad, 0);
+    QLabel *label = new FittedLabel<QLabel>(QString(), keypad, 0, mostLimitLines);
     colourLabel(label);
+    label->setObjectName(QLatin1String("limitLabel"));
     label->hide();
     return label;
 }
@@ -88,12 +170,10 @@ void colourKey(QToolButton *key)
     applyDarkScheme(key, keyColours);
 }
 
-QFont font(int points)
+void setUpFonts(QDialog *keypad, int points)
 {
-    const QString family = QFontInfo(QFont(QLatin1String("simsun"))).family();
-    QFont font(family, points);
-    font.setPixelSize(qRound(points * 96 / 72.0f));
-    return font;
+    keypad->setFont(font(points));
+    new FontShare(keypad);
 }
 
 void setUpLayout(QLayout *layout, int spacing)
@@ -120,6 +200,7 @@ void setUpKey(QToolButton *key, const QString &label)
 KeyBoardLineEdit *createEditLine(QDialog *keypad)
 {
     KeyBoardLineEdit *editLine = new KeyBoardLineEdit(keypad);
+    editLine->setObjectName(QLatin1String(editLineName));
     colourEditLine(editLine);
     editLine->setContextMenuPolicy(Qt::NoContextMenu);
     editLine->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -143,7 +224,7 @@ void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editL
     layout->addWidget(*tipLabel);
     layout->addWidget(*editLine);
     layout->addLayout(grid);
-    keypad->setFont(font(fewKeysPoints));
+    setUpFonts(keypad, fewKeysPoints);
     (*tipLabel)->setFont(font(tipPoints));
     keypad->resize(unplacedSize);
 }

@@ -4,8 +4,6 @@
 
 #include "KeyGrid_p.h"
 
-#include <QFont>
-
 class KeyBoardLineEdit;
 class QDialog;
 class QLabel;
@@ -27,8 +25,10 @@ void colourKey(QToolButton *key);
 const int fewKeysPoints = 28;  // of keypads whose keys never change
 const int manyKeysPoints = 24; // of the others, which have more to show
 
-// The keypads' font at \a points, in pixels at 96 dots per inch whatever the screen reports.
-QFont font(int points);
+// Sets the keypads' font at \a points, in pixels at 96 dots per inch whatever the screen reports,
+// on \a keypad and all parts that it has by now. A font that the application sets on the keypad
+// later reaches them as well.
+void setUpFonts(QDialog *keypad, int points);
 
 const int keySpacing = 1; // pixels
 
@@ -41,6 +41,8 @@ QToolButton *createKey(QWidget *parent, const QString &label);
 
 // Makes a key of a button that exists.
 void setUpKey(QToolButton *key, const QString &label);
+
+const char editLineName[] = "editLine";
 
 KeyBoardLineEdit *createEditLine(QDialog *keypad);
 

@@ -2,6 +2,7 @@
 #include "KeypadRules_p.h"
 
 #include "HMIDeviceInfo.h"
+#include "QtDifferences_p.h"
 
 #include <QDialog>
 #include <QGraphicsView>
@@ -164,6 +165,12 @@ void press(const QObject *key, const KeyCell *cells, const KeyMembers &members, 
 QRect mappedToGlobal(const QWidget *widget, const QRect &rect)
 {
     return QRect(widget->mapToGlobal(rect.topLeft()), widget->mapToGlobal(rect.bottomRight()));
+}
+
+void comeToFront(QDialog *keypad)
+{
+    if (QtDifferences::windowsAreStacked())
+        keypad->raise();
 }
 
 bool coverView(QDialog *keypad)

@@ -45,6 +45,10 @@ void press(const QObject *key, const KeyCell *cells, const KeyMembers &members, 
 // The rectangle between the two corners of \a rect, each mapped by \a widget to global coordinates.
 QRect mappedToGlobal(const QWidget *widget, const QRect &rect);
 
+// Brings \a keypad, about to be shown, above what was shown since it was last used: without a
+// window manager nothing else does.
+void comeToFront(QDialog *keypad);
+
 // Lays \a keypad over the registered view; false, leaving it where it is, when there is none. The
 // viewport's rectangle, which counts from the view's corner, is mapped from the viewport's corner:
 // a frame of the view shifts it once more. Existing screens are laid out for that.

@@ -144,6 +144,7 @@ void NumericKeypad::keyPressEvent(QKeyEvent *event)
 
 void NumericKeypad::showEvent(QShowEvent *event)
 {
+    Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
 }

@@ -5,6 +5,9 @@
 #include <QCoreApplication>
 #include <QObject>
 #include <QString>
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#include <QGuiApplication>
+#endif
 
 // Everything in which Qt 4.8, 5 and 6 differ for this library, once and by purpose.
 
@@ -41,6 +44,18 @@ inline QString translateUtf8(const char *text)
     return QCoreApplication::translate("", text, nullptr, QCoreApplication::UnicodeUTF8);
 #else
     return QCoreApplication::translate("", text);
+#endif
+}
+
+// Whether windows lie above each other here. Qt 5 and 6 complain when asked to raise one on their
+// platforms without a screen.
+inline bool windowsAreStacked()
+{
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    return true;
+#else
+    const QString platform = QGuiApplication::platformName();
+    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
 #endif
 }
 

@@ -123,6 +123,7 @@ void vondKeypad::keyPressEvent(QKeyEvent *event)
 
 void vondKeypad::showEvent(QShowEvent *event)
 {
+    Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
 }

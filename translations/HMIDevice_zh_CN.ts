@@ -88,4 +88,35 @@
         <translation>取消</translation>
     </message>
 </context>
+<context>
+    <name>Keypad</name>
+    <message>
+        <source>Space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>Sign</source>
+        <translation>正负号</translation>
+    </message>
+    <message>
+        <source>Cursor left</source>
+        <translation>光标左移</translation>
+    </message>
+    <message>
+        <source>Cursor right</source>
+        <translation>光标右移</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>退格</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+</context>
 </TS>

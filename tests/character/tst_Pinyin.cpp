@@ -92,6 +92,7 @@ private Q_SLOTS:
     void candidatesAreInsertedAsTheyStand();
     void atMostTheFirstFetchIsOffered();
     void theFileIsNeverWritten();
+    void aWordLearnedThroughTheConnectionIsOffered();
     void aMissingFileStaysMissing();
 
 private:
@@ -442,13 +443,21 @@ void tst_Pinyin::theFileIsNeverWritten()
         ChineseStage stage;
         stage.type(u("n i > > < 1 z h u Del Del Del *# << EN CN h a o 2 n i"));
         QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
-        QSqlQuery query(QSqlDatabase::database(u("pinyin")));
-        QVERIFY(!query.exec(u("DELETE FROM pinyin")));
-        QVERIFY(!query.exec(u("CREATE TABLE more (a)")));
     }
     QCOMPARE(DictionaryFile::bytes(), before);
     QCOMPARE(QFileInfo(DictionaryFile::path()).lastModified(), modified);
     QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
+}
+
+void tst_Pinyin::aWordLearnedThroughTheConnectionIsOffered()
+{
+    ChineseStage stage;
+    stage.type(u("q q"));
+    QCOMPARE(allCandidates(stage.keypad), QStringList());
+    QSqlQuery query(QSqlDatabase::database(u("pinyin")));
+    QVERIFY(query.exec(DictionaryFile::insertion("qq", u("轻切"))));
+    stage.type(u("Del q"));
+    QCOMPARE(allCandidates(stage.keypad), QStringList(u("轻切")));
 }
 
 void tst_Pinyin::aMissingFileStaysMissing()
