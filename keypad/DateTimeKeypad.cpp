@@ -303,13 +303,13 @@ QLayout *DateTimeKeypad::commands()
     return row;
 }
 
-// The field that had the focus may have been disabled since, by another format.
+// The field that had the focus at the last use may have been disabled since, by another format. At
+// the first use nothing has had it, and Qt gives it to the first enabled field.
 void DateTimeKeypad::focusEnabledField()
 {
-    if (const QWidget *field = focusWidget()) {
-        if (field->isEnabled() && qobject_cast<const QSpinBox *>(field))
-            return;
-    }
+    const QWidget *last = focusWidget();
+    if (!last || (last->isEnabled() && qobject_cast<const QSpinBox *>(last)))
+        return;
     for (QSpinBox *field : m_fields) {
         if (field->isEnabled()) {
             field->setFocus();
