@@ -103,6 +103,14 @@ void showPanel(QWidget *shown, QWidget *hidden)
     shown->show();
 }
 
+// What the edit line will take of a text. It copies that part of a longer one again for each
+// character in it: a candidate of a megabyte would hold a slow panel up for seconds.
+QString fittingPart(const QLineEdit *line, const QString &text)
+{
+    const int kept = int(line->text().size() - line->selectedText().size());
+    return line->inputMask().isEmpty() ? text.left(line->maxLength() - kept) : text;
+}
+
 } // namespace
 
 CharacterKeypad *CharacterKeypad::m_instance = nullptr;
@@ -375,7 +383,7 @@ void CharacterKeypad::editText(const QString &key)
     else if (key == QLatin1String(spaceLabel))
         m_lineEdit->insert(QString(QLatin1Char(' ')));
     else
-        m_lineEdit->insert(key);
+        m_lineEdit->insert(fittingPart(m_lineEdit, key));
 }
 
 void CharacterKeypad::deleteCharacter()
