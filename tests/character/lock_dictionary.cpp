@@ -6,10 +6,8 @@
 
 #include <cstdio>
 
-/*
- * Locks the SQLite file that is named as the argument for writing, says so with a line on standard
- * output, and keeps the lock until standard input ends.
- */
+// Locks the SQLite file that is named as the argument for writing, says so with a line on standard
+// output, and keeps the lock until standard input ends.
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);

@@ -1,45 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CharacterDriver.h"
 
-// How a run of the keypad ends in each of its modes: keys and hard keys that confirm, cancel or are
-// handed on.
-
-namespace {
-
-/* How each mode is reached from a new keypad. */
-const struct
-{
-    const char *name, *taps;
-} modes[] = { { "English", "" }, { "capitals", "caps" }, { "symbols", "*#" }, { "Chinese", "CN" } };
-
-/* Hears of a hard key that was handed on, and looks at the keypad in that moment. */
-class KeyListener : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit KeyListener(CharacterKeypad *keypad)
-        : visible(true)
-        , m_keypad(keypad)
-    {
-        connect(keypad, SIGNAL(signal_kTypeKeyPressed(int)), this, SLOT(hear(int)));
-    }
-
-    QList<int> keys;
-    bool visible;
-
-public Q_SLOTS:
-    void hear(int key)
-    {
-        keys << key;
-        visible = m_keypad->isVisible();
-    }
-
-private:
-    CharacterKeypad *m_keypad;
-};
-
-} // namespace
+// How a run of the keypad ends with each of its faces: keys and hard keys that confirm, cancel or
+// are handed on. What is alike in all keypads is tested with them.
 
 class tst_CharacterClosing : public QObject
 {
@@ -48,27 +11,23 @@ class tst_CharacterClosing : public QObject
 private Q_SLOTS:
     void enterWritesAndAccepts_data();
     void enterWritesAndAccepts();
-    void enterNeedsALivingTarget_data();
-    void enterNeedsALivingTarget();
+    void enterNeedsATarget_data();
+    void enterNeedsATarget();
     void escapeLeavesTheTargetAlone_data();
     void escapeLeavesTheTargetAlone();
-    void hardKeysConfirmAndCancel_data();
-    void hardKeysConfirmAndCancel();
-    void hardKeysAreHandedOnByType13_data();
-    void hardKeysAreHandedOnByType13();
+    void hardKeysEndTheRun_data();
+    void hardKeysEndTheRun();
     void theNextRunOpensAsTheLastWasLeft();
 };
 
 void tst_CharacterClosing::enterWritesAndAccepts_data()
 {
-    QTest::addColumn<QString>("mode");
-    for (int i = 0; i < 4; ++i)
-        QTest::newRow(modes[i].name) << u(modes[i].taps);
+    addFaceRows();
 }
 
 void tst_CharacterClosing::enterWritesAndAccepts()
 {
-    QFETCH(QString, mode);
+    QFETCH(int, face);
     CharacterStage stage;
     stage.target.setText(u("old"));
     stage.keypad.setText(u("new"));
@@ -76,185 +35,140 @@ void tst_CharacterClosing::enterWritesAndAccepts()
     CHECKED(execWhile(
         &stage.keypad,
         [&] {
-            press(stage.keypad, qPrintable(mode));
+            CHECKED(press(stage.keypad, faces[face].taps));
             QCOMPARE(stage.target.text(), u("old"));
-            press(stage.keypad, "Enter");
+            CHECKED(press(stage.keypad, "Enter"));
         },
         Accepts));
     QCOMPARE(stage.target.text(), u("new"));
     QCOMPARE(changed.count(), 1);
 }
 
-void tst_CharacterClosing::enterNeedsALivingTarget_data()
+void tst_CharacterClosing::enterNeedsATarget_data()
 {
-    enterWritesAndAccepts_data();
+    addFaceRows();
 }
 
-void tst_CharacterClosing::enterNeedsALivingTarget()
+void tst_CharacterClosing::enterNeedsATarget()
 {
-    QFETCH(QString, mode);
+    QFETCH(int, face);
     PanelView view(1);
     CharacterKeypad keypad(&view, Qt::WindowFlags());
-    QObject *gone = new QLineEdit;
-    for (int i = 0; i < 2; ++i) {
-        keypad.setText(u("text"));
-        CHECKED(execWhile(
-            &keypad,
-            [&] {
-                if (i == 0)
-                    press(keypad, qPrintable(mode));
-                press(keypad, "Enter");
-                pressHardKey(&keypad, Qt::Key_Return);
-            },
-            StaysOpen));
-        QCOMPARE(editLine(&keypad)->text(), u("text"));
-        if (i == 0) {
-            keypad.setObject(gone);
-            delete gone;
-        }
-    }
+    keypad.setText(u("text"));
+    CHECKED(execWhile(
+        &keypad,
+        [&] {
+            CHECKED(press(keypad, faces[face].taps));
+            CHECKED(press(keypad, "Enter"));
+            pressHardKey(&keypad, Qt::Key_Return);
+        },
+        StaysOpen));
+    QCOMPARE(editLine(&keypad)->text(), u("text"));
+    QCOMPARE(shownFace(keypad), u(faces[face].shown));
 }
 
 void tst_CharacterClosing::escapeLeavesTheTargetAlone_data()
 {
-    enterWritesAndAccepts_data();
+    addFaceRows();
 }
 
 void tst_CharacterClosing::escapeLeavesTheTargetAlone()
 {
-    QFETCH(QString, mode);
+    QFETCH(int, face);
     CharacterStage stage;
     stage.target.setText(u("old"));
     stage.keypad.setText(u("new"));
     CHECKED(execWhile(
         &stage.keypad,
         [&] {
-            press(stage.keypad, qPrintable(mode));
-            press(stage.keypad, "Esc");
+            CHECKED(press(stage.keypad, faces[face].taps));
+            CHECKED(press(stage.keypad, "Esc"));
         },
         Rejects));
     QCOMPARE(stage.target.text(), u("old"));
 }
 
-void tst_CharacterClosing::hardKeysConfirmAndCancel_data()
+void tst_CharacterClosing::hardKeysEndTheRun_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<bool>("confirms");
+    QTest::addColumn<int>("face");
+    QTest::addColumn<int>("outcome");
+    QTest::addColumn<bool>("handedOn");
 
     static const struct
     {
         const char *name;
-        int key;
-        bool confirms;
-    } keys[] = { { "Return", Qt::Key_Return, true },
-                 { "Enter", Qt::Key_Enter, true },
-                 { "Escape", Qt::Key_Escape, false } };
-    for (int type = 1; type <= 13; type += 12) {
-        for (int m = 0; m < 4; ++m) {
-            for (int k = 0; k < 3; ++k) {
-                const QString name = QString::fromLatin1("%1, %2, type %3")
-                                         .arg(u(keys[k].name), u(modes[m].name))
-                                         .arg(type);
-                QTest::newRow(qPrintable(name))
-                    << type << keys[k].key << u(modes[m].taps) << keys[k].confirms;
-            }
+        int type, key;
+        Outcome outcome;
+        bool handedOn;
+    } keys[] = { { "Return", 1, Qt::Key_Return, Accepts, false },
+                 { "Enter", 1, Qt::Key_Enter, Accepts, false },
+                 { "Escape", 1, Qt::Key_Escape, Rejects, false },
+                 { "F5", 1, Qt::Key_F5, StaysOpen, false },
+                 { "Return, type 13", 13, Qt::Key_Return, Accepts, false },
+                 { "Enter, type 13", 13, Qt::Key_Enter, Accepts, false },
+                 { "Escape, type 13", 13, Qt::Key_Escape, Rejects, false },
+                 { "F5, type 13", 13, Qt::Key_F5, Rejects, true },
+                 { "F6, type 13", 13, Qt::Key_F6, StaysOpen, false } };
+    for (const auto &key : keys) {
+        for (int face = 0; face < 4; ++face) {
+            const QString name =
+                QString::fromLatin1("%1, %2").arg(u(key.name), u(faces[face].name));
+            QTest::newRow(qPrintable(name))
+                << key.type << key.key << face << int(key.outcome) << key.handedOn;
         }
     }
 }
 
-void tst_CharacterClosing::hardKeysConfirmAndCancel()
+void tst_CharacterClosing::hardKeysEndTheRun()
 {
     QFETCH(int, type);
     QFETCH(int, key);
-    QFETCH(QString, mode);
-    QFETCH(bool, confirms);
+    QFETCH(int, face);
+    QFETCH(int, outcome);
+    QFETCH(bool, handedOn);
     CharacterStage stage(type);
     stage.target.setText(u("old"));
     stage.keypad.setText(u("new"));
-    QSignalSpy handedOn(&stage.keypad, SIGNAL(signal_kTypeKeyPressed(int)));
+    QSignalSpy signal(&stage.keypad, SIGNAL(signal_kTypeKeyPressed(int)));
     CHECKED(execWhile(
         &stage.keypad,
         [&] {
-            press(stage.keypad, qPrintable(mode));
+            CHECKED(press(stage.keypad, faces[face].taps));
             pressHardKey(&stage.keypad, key);
         },
-        confirms ? Accepts : Rejects));
-    QCOMPARE(stage.target.text(), u(confirms ? "new" : "old"));
-    QCOMPARE(handedOn.count(), 0);
-}
-
-void tst_CharacterClosing::hardKeysAreHandedOnByType13_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("mode");
-    QTest::newRow("type 13, English") << 13 << "";
-    QTest::newRow("type 13, symbols") << 13 << "*#";
-    QTest::newRow("type 13, Chinese") << 13 << "CN";
-    QTest::newRow("type 1") << 1 << "";
-    QTest::newRow("type 12") << 12 << "CN";
-    QTest::newRow("type 14") << 14 << "";
-}
-
-void tst_CharacterClosing::hardKeysAreHandedOnByType13()
-{
-    QFETCH(int, type);
-    QFETCH(QString, mode);
-    CharacterStage stage(type);
-    stage.keypad.setText(u("text"));
-    press(stage.keypad, qPrintable(mode));
-    QList<int> keys;
-    keys << Qt::Key_Left << Qt::Key_Up << Qt::Key_Right << Qt::Key_Down << Qt::Key_Home
-         << Qt::Key_PageUp;
-    for (int key = Qt::Key_F1; key <= Qt::Key_F35; ++key)
-        keys << key;
-    for (int i = 0; i < keys.size(); ++i) {
-        const int key = keys.at(i);
-        const bool handedOn = type == 13 && applicationKeys().contains(key);
-        stage.keypad.show();
-        KeyListener listener(&stage.keypad);
-        QSignalSpy rejected(&stage.keypad, SIGNAL(rejected()));
-        QTest::keyClick(&stage.keypad, Qt::Key(key));
-        QCOMPARE(listener.keys, handedOn ? QList<int>() << key : QList<int>());
-        QCOMPARE(rejected.count(), handedOn ? 1 : 0);
-        QCOMPARE(stage.keypad.isVisible(), !handedOn);
-        if (handedOn)
-            QVERIFY(!listener.visible);
-    }
-    QCOMPARE(editLine(&stage.keypad)->text(), u("text"));
-    QCOMPARE(stage.target.text(), QString());
+        Outcome(outcome)));
+    QCOMPARE(stage.target.text(), u(outcome == Accepts ? "new" : "old"));
+    QCOMPARE(signal.count(), handedOn ? 1 : 0);
+    if (handedOn)
+        QCOMPARE(signal.at(0).at(0).toInt(), key);
 }
 
 void tst_CharacterClosing::theNextRunOpensAsTheLastWasLeft()
 {
+    static const struct
+    {
+        FaceIndex face;
+        const char *taps, *wayOut;
+        Outcome outcome;
+    } runs[] = { { English, "a b CN *#", "Esc", Rejects }, { Symbols, "<<", "Enter", Accepts },
+                 { Chinese, "EN caps", "Enter", Accepts }, { Capitals, "CAPS", "Esc", Rejects },
+                 { English, "CN", "Esc", Rejects },        { Chinese, "EN", "Enter", Accepts } };
     CharacterStage stage;
-    CHECKED(execWhile(
-        &stage.keypad, [&] { press(stage.keypad, "a b CN *# Esc"); }, Rejects));
-    CHECKED(execWhile(
-        &stage.keypad,
-        [&] {
-            QCOMPARE(face(stage.keypad), u("~ << _ + digits"));
-            QCOMPARE(editLine(&stage.keypad)->text(), u("ab"));
-            press(stage.keypad, "<< Enter");
-        },
-        Accepts));
-    QCOMPARE(stage.target.text(), u("ab"));
-    QLineEdit other;
-    stage.keypad.setObject(&other);
-    CHECKED(execWhile(
-        &stage.keypad,
-        [&] {
-            QCOMPARE(face(stage.keypad), u("blank EN *# q candidates"));
-            QCOMPARE(editLine(&stage.keypad)->text(), u("ab"));
-            press(stage.keypad, "EN Enter");
-        },
-        Accepts));
-    QCOMPARE(other.text(), u("ab"));
-    CHECKED(execWhile(
-        &stage.keypad, [&] { press(stage.keypad, "caps Esc"); }, Rejects));
-    CHECKED(execWhile(
-        &stage.keypad, [&] { QCOMPARE(face(stage.keypad), u("CAPS CN *# Q digits")); }, StaysOpen));
+    for (const auto &run : runs) {
+        QLineEdit target;
+        stage.keypad.setObject(&target);
+        CHECKED(execWhile(
+            &stage.keypad,
+            [&] {
+                QCOMPARE(shownFace(stage.keypad), u(faces[run.face].shown));
+                CHECKED(press(stage.keypad, run.taps));
+                CHECKED(press(stage.keypad, run.wayOut));
+            },
+            run.outcome));
+        QCOMPARE(target.text(), u(run.outcome == Accepts ? "ab" : ""));
+    }
 }
 
 QTEST_MAIN(tst_CharacterClosing)

@@ -3,7 +3,7 @@
 
 #include <QIntValidator>
 
-/* The application's date-time field: the class whose name gives it a delete rule of its own. */
+// The application's date-time field: the class whose name gives it a delete rule of its own.
 class DateTimeField : public QWidget
 {
     Q_OBJECT
@@ -24,12 +24,7 @@ class StampField : public DateTimeField
 
 namespace {
 
-const char lowerCase[] = "caps CN *# q digits";
-const char capitals[] = "CAPS CN *# Q digits";
-const char symbols[] = "~ << _ + digits";
-const char chinese[] = "blank EN *# q candidates";
-
-/* Knows only whole dates, as a validator of such fields does. */
+// Knows only whole dates, as a validator of such fields does.
 class WholeDates : public QValidator
 {
 public:
@@ -61,6 +56,30 @@ QObject *createTarget(TargetKind kind)
     return nullptr;
 }
 
+// Puts a text with its marks for cursor and selection into the edit line.
+void setMarkedText(QLineEdit *line, QString text)
+{
+    const int cursor = int(text.indexOf(QLatin1Char('|')));
+    const int start = int(text.indexOf(QLatin1Char('[')));
+    const int end = int(text.indexOf(QLatin1Char(']'))) - 1;
+    text.remove(QLatin1Char('|')).remove(QLatin1Char('[')).remove(QLatin1Char(']'));
+    line->setText(text);
+    if (start >= 0)
+        line->setSelection(start, end - start);
+    else
+        line->setCursorPosition(cursor);
+}
+
+QString markedText(const QLineEdit *line)
+{
+    QString text = line->text();
+    if (!line->hasSelectedText())
+        return text.insert(line->cursorPosition(), QLatin1Char('|'));
+    const int start = line->selectionStart();
+    text.insert(start + int(line->selectedText().size()), QLatin1Char(']'));
+    return text.insert(start, QLatin1Char('['));
+}
+
 } // namespace
 
 class tst_CharacterContent : public QObject
@@ -75,6 +94,9 @@ private Q_SLOTS:
     void contentIsTakenLiterally_data();
     void contentIsTakenLiterally();
     void insertionIsTheEditLines();
+    void anInputMaskStaysInForce();
+    void aPasswordStaysMasked_data();
+    void aPasswordStaysMasked();
     void theBlankKeySendsNothing();
     void deleteTakesOneCharacterOrTheSelection_data();
     void deleteTakesOneCharacterOrTheSelection();
@@ -84,47 +106,50 @@ private Q_SLOTS:
 void tst_CharacterContent::modeKeysSwitchModes_data()
 {
     QTest::addColumn<QString>("taps");
-    QTest::addColumn<QString>("expected");
+    QTest::addColumn<int>("expected");
 
-    QTest::newRow("new keypad") << "" << lowerCase;
-    QTest::newRow("English, caps") << "caps" << capitals;
-    QTest::newRow("English, CAPS") << "caps CAPS" << lowerCase;
-    QTest::newRow("English, CN") << "CN" << chinese;
-    QTest::newRow("capitals, CN") << "caps CN" << chinese;
-    QTest::newRow("English, *#") << "*#" << symbols;
-    QTest::newRow("capitals, *#") << "caps *#" << symbols;
-    QTest::newRow("Chinese, EN") << "CN EN" << lowerCase;
-    QTest::newRow("Chinese from capitals, EN") << "caps CN EN" << lowerCase;
-    QTest::newRow("Chinese, *#") << "CN *#" << symbols;
-    QTest::newRow("symbols from English, <<") << "*# <<" << lowerCase;
-    QTest::newRow("symbols from capitals, <<") << "caps *# <<" << lowerCase;
-    QTest::newRow("symbols from Chinese, <<") << "CN *# <<" << chinese;
-    QTest::newRow("there and back twice") << "CN *# << EN *# <<" << lowerCase;
-    QTest::newRow("back to English, then Chinese") << "*# << CN" << chinese;
-    QTest::newRow("back to Chinese, then symbols") << "CN *# << *# <<" << chinese;
-    QTest::newRow("the way back is fresh each time") << "CN *# << EN caps *# <<" << lowerCase;
+    static const struct
+    {
+        const char *name, *taps;
+        FaceIndex expected;
+    } rows[] = { { "new keypad", "", English },
+                 { "English, caps", "caps", Capitals },
+                 { "English, CAPS", "caps CAPS", English },
+                 { "English, CN", "CN", Chinese },
+                 { "capitals, CN", "caps CN", Chinese },
+                 { "English, *#", "*#", Symbols },
+                 { "capitals, *#", "caps *#", Symbols },
+                 { "Chinese, EN", "CN EN", English },
+                 { "Chinese from capitals, EN", "caps CN EN", English },
+                 { "Chinese, *#", "CN *#", Symbols },
+                 { "symbols from English, <<", "*# <<", English },
+                 { "symbols from capitals, <<", "caps *# <<", English },
+                 { "symbols from Chinese, <<", "CN *# <<", Chinese },
+                 { "there and back twice", "CN *# << EN *# <<", English },
+                 { "back to English, then Chinese", "*# << CN", Chinese },
+                 { "back to Chinese, then symbols", "CN *# << *# <<", Chinese },
+                 { "the way back is fresh each time", "CN *# << EN caps *# <<", English } };
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << u(row.taps) << int(row.expected);
 }
 
 void tst_CharacterContent::modeKeysSwitchModes()
 {
     QFETCH(QString, taps);
-    QFETCH(QString, expected);
+    QFETCH(int, expected);
     CharacterStage stage;
     stage.keypad.setText(u("kept"));
-    press(stage.keypad, qPrintable(taps));
-    QCOMPARE(face(stage.keypad), expected);
-    QCOMPARE(modeKey(stage.keypad)->isEnabled(), expected != u(chinese));
-    QCOMPARE(editLine(&stage.keypad)->text(), u("kept"));
+    CHECKED(press(stage.keypad, taps));
+    QCOMPARE(shownFace(stage.keypad), u(faces[expected].shown));
+    QCOMPARE(modeKey(stage.keypad)->isEnabled(), expected != Chinese);
+    QCOMPARE(stage.line()->text(), u("kept"));
 
     // The mode behind the face: only Chinese mode composes, only symbol mode halves "&&".
+    static const char *const typed[] = { "&&x", "&&x", "&x", "&&" };
     QVERIFY(sendContent(stage.keypad, u("&&")));
     QVERIFY(sendContent(stage.keypad, u("x")));
-    const bool composing = expected == u(chinese);
-    QCOMPARE(editLine(&stage.keypad)->text(),
-             u(composing                    ? "&&"
-                   : expected == u(symbols) ? "&x"
-                                            : "&&x"));
-    QCOMPARE(shownPinyin(stage.keypad), u(composing ? "x" : ""));
+    QCOMPARE(stage.line()->text(), u(typed[expected]));
+    QCOMPARE(shownPinyin(stage.keypad), u(expected == Chinese ? "x" : ""));
 }
 
 void tst_CharacterContent::keysType_data()
@@ -133,51 +158,29 @@ void tst_CharacterContent::keysType_data()
     QTest::addColumn<QString>("taps");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("letters") << ""
-                             << "q w e r t y u i o p a s d f g h j k l z x c v b n m"
-                             << "qwertyuiopasdfghjklzxcvbnm";
-    QTest::newRow("capitals") << "caps"
-                              << "Q W E R T Y U I O P A S D F G H J K L Z X C V B N M"
-                              << "QWERTYUIOPASDFGHJKLZXCVBNM";
-    QTest::newRow("first symbols") << "*#"
-                                   << "+ - * / ( ) [ ] = %"
-                                   << "+-*/()[]=%";
-    QTest::newRow("second symbols") << "*#"
-                                    << "! @ # $ ? ; : ' \""
-                                    << "!@#$?;:'\"";
-    QTest::newRow("third symbols") << "*#"
-                                   << "< > | && \\ { }"
-                                   << "<>|&\\{}";
-    QTest::newRow("two ampersands") << "*#"
-                                    << "&& &&"
-                                    << "&&";
-    QTest::newRow("keys at the left") << "*#"
-                                      << "~ _"
-                                      << "~_";
-    QTest::newRow("digits") << ""
-                            << "0 1 2 3 4 5 6 7 8 9"
-                            << "0123456789";
-    QTest::newRow("digits, capitals") << "caps"
-                                      << "0 9"
-                                      << "09";
-    QTest::newRow("digits, symbols") << "*#"
-                                     << "0 1 2 3 4 5 6 7 8 9"
-                                     << "0123456789";
-    QTest::newRow("common keys") << ""
-                                 << ", Space ."
-                                 << ", .";
-    QTest::newRow("common keys, capitals") << "caps"
-                                           << ", Space ."
-                                           << ", .";
-    QTest::newRow("common keys, symbols") << "*#"
-                                          << ", Space ."
-                                          << ", .";
-    QTest::newRow("common keys, Chinese") << "CN"
-                                          << ", Space ."
-                                          << ", .";
-    QTest::newRow("all together") << ""
-                                  << "caps M CAPS a x *# && _ << 1 Space CN , EN z"
-                                  << "Max&_1 ,z";
+    static const struct
+    {
+        const char *name, *mode, *taps, *text;
+    } rows[] = { { "letters", "", "q w e r t y u i o p a s d f g h j k l z x c v b n m",
+                   "qwertyuiopasdfghjklzxcvbnm" },
+                 { "capitals", "caps", "Q W E R T Y U I O P A S D F G H J K L Z X C V B N M",
+                   "QWERTYUIOPASDFGHJKLZXCVBNM" },
+                 { "first symbols", "*#", "+ - * / ( ) [ ] = %", "+-*/()[]=%" },
+                 { "second symbols", "*#", "! @ # $ ? ; : ' \"", "!@#$?;:'\"" },
+                 { "third symbols", "*#", "< > | && \\ { }", "<>|&\\{}" },
+                 { "two ampersands", "*#", "&& &&", "&&" },
+                 { "keys at the left", "*#", "~ _", "~_" },
+                 { "digits", "", "0 1 2 3 4 5 6 7 8 9", "0123456789" },
+                 { "digits, capitals", "caps", "0 9", "09" },
+                 { "digits, symbols", "*#", "0 1 2 3 4 5 6 7 8 9", "0123456789" },
+                 { "common keys", "", ", Space .", ", ." },
+                 { "common keys, capitals", "caps", ", Space .", ", ." },
+                 { "common keys, symbols", "*#", ", Space .", ", ." },
+                 { "common keys, Chinese", "CN", ", Space .", ", ." },
+                 { "all together", "", "caps M CAPS a x *# && _ << 1 Space CN , EN z",
+                   "Max&_1 ,z" } };
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << u(row.mode) << u(row.taps) << u(row.text);
 }
 
 void tst_CharacterContent::keysType()
@@ -187,10 +190,10 @@ void tst_CharacterContent::keysType()
     QFETCH(QString, text);
     CharacterStage stage;
     stage.keypad.setText(u("replaced"));
-    press(stage.keypad, qPrintable(mode));
-    press(stage.keypad, qPrintable(taps));
-    QCOMPARE(editLine(&stage.keypad)->text(), text);
-    QCOMPARE(editLine(&stage.keypad)->cursorPosition(), int(text.size()));
+    CHECKED(press(stage.keypad, mode));
+    CHECKED(press(stage.keypad, taps));
+    QCOMPARE(stage.line()->text(), text);
+    QCOMPARE(stage.line()->cursorPosition(), int(text.size()));
 }
 
 void tst_CharacterContent::contentIsTakenLiterally_data()
@@ -199,70 +202,33 @@ void tst_CharacterContent::contentIsTakenLiterally_data()
     QTest::addColumn<QString>("content");
     QTest::addColumn<QString>("text"); // of the edit line, which held "ab" and a cursor between
 
-    QTest::newRow("nothing") << ""
-                             << ""
-                             << "ab";
-    QTest::newRow("nothing, symbols") << "*#"
-                                      << ""
-                                      << "ab";
-    QTest::newRow("nothing, Chinese") << "CN"
-                                      << ""
-                                      << "ab";
-    QTest::newRow("unknown") << ""
-                             << "F7"
-                             << "aF7b";
-    QTest::newRow("unknown, symbols") << "*#"
-                                      << "F7"
-                                      << "aF7b";
-    QTest::newRow("unknown, Chinese") << "CN"
-                                      << "F7"
-                                      << "aF7b";
-    QTest::newRow("wrong case") << ""
-                                << "del"
-                                << "adelb";
-    QTest::newRow("wrong case, symbols") << "*#"
-                                         << "ENTER"
-                                         << "aENTERb";
-    QTest::newRow("wrong case, Chinese") << "CN"
-                                         << "SPACE"
-                                         << "aSPACEb";
-    QTest::newRow("blank at the end") << ""
-                                      << "Del "
-                                      << "aDel b";
-    QTest::newRow("key of another mode") << ""
-                                         << "<<"
-                                         << "a<<b";
-    QTest::newRow("key of another mode, EN") << ""
-                                             << "EN"
-                                             << "aENb";
-    QTest::newRow("key of another mode, symbols") << "*#"
-                                                  << "CN"
-                                                  << "aCNb";
-    QTest::newRow("caps in symbols") << "*#"
-                                     << "caps"
-                                     << "acapsb";
-    QTest::newRow("mode key in symbols") << "*#"
-                                         << "*#"
-                                         << "a*#b";
-    QTest::newRow("key of another mode, Chinese") << "CN"
-                                                  << "CN"
-                                                  << "aCNb";
-    QTest::newRow("back key, Chinese") << "CN"
-                                       << "<<"
-                                       << "a<<b";
-    QTest::newRow("ampersands in English") << ""
-                                           << "&&"
-                                           << "a&&b";
-    QTest::newRow("three ampersands in symbols") << "*#"
-                                                 << "&&&"
-                                                 << "a&&&b";
-    QTest::newRow("capital letter, Chinese") << "CN"
-                                             << "N"
-                                             << "aNb";
-    QTest::newRow("paging in English") << ""
-                                       << ">"
-                                       << "a>b";
-    QTest::newRow("Chinese text in English") << "" << u("主轴") << u("a主轴b");
+    static const struct
+    {
+        const char *name, *mode, *content, *text;
+    } rows[] = { { "nothing", "", "", "ab" },
+                 { "nothing, symbols", "*#", "", "ab" },
+                 { "nothing, Chinese", "CN", "", "ab" },
+                 { "unknown", "", "F7", "aF7b" },
+                 { "unknown, symbols", "*#", "F7", "aF7b" },
+                 { "unknown, Chinese", "CN", "F7", "aF7b" },
+                 { "wrong case", "", "del", "adelb" },
+                 { "wrong case, symbols", "*#", "ENTER", "aENTERb" },
+                 { "wrong case, Chinese", "CN", "SPACE", "aSPACEb" },
+                 { "blank at the end", "", "Del ", "aDel b" },
+                 { "key of another mode", "", "<<", "a<<b" },
+                 { "key of another mode, EN", "", "EN", "aENb" },
+                 { "key of another mode, symbols", "*#", "CN", "aCNb" },
+                 { "caps in symbols", "*#", "caps", "acapsb" },
+                 { "mode key in symbols", "*#", "*#", "a*#b" },
+                 { "key of another mode, Chinese", "CN", "CN", "aCNb" },
+                 { "back key, Chinese", "CN", "<<", "a<<b" },
+                 { "ampersands in English", "", "&&", "a&&b" },
+                 { "three ampersands in symbols", "*#", "&&&", "a&&&b" },
+                 { "capital letter, Chinese", "CN", "N", "aNb" },
+                 { "paging in English", "", ">", "a>b" },
+                 { "Chinese text in English", "", "主轴", "a主轴b" } };
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << u(row.mode) << u(row.content) << u(row.text);
 }
 
 void tst_CharacterContent::contentIsTakenLiterally()
@@ -271,52 +237,88 @@ void tst_CharacterContent::contentIsTakenLiterally()
     QFETCH(QString, content);
     QFETCH(QString, text);
     CharacterStage stage;
-    press(stage.keypad, qPrintable(mode));
-    const QString before = face(stage.keypad);
+    CHECKED(press(stage.keypad, mode));
+    const QString before = shownFace(stage.keypad);
     stage.keypad.setText(u("ab"));
-    editLine(&stage.keypad)->setCursorPosition(1);
+    stage.line()->setCursorPosition(1);
     QVERIFY(sendContent(stage.keypad, content));
-    QCOMPARE(editLine(&stage.keypad)->text(), text);
-    QCOMPARE(editLine(&stage.keypad)->cursorPosition(), 1 + int(content.size()));
-    QCOMPARE(face(stage.keypad), before);
+    QCOMPARE(stage.line()->text(), text);
+    QCOMPARE(stage.line()->cursorPosition(), 1 + int(content.size()));
+    QCOMPARE(shownFace(stage.keypad), before);
     QCOMPARE(shownPinyin(stage.keypad), QString());
 }
 
 void tst_CharacterContent::insertionIsTheEditLines()
 {
     CharacterStage stage;
-    KeyBoardLineEdit *line = editLine(&stage.keypad);
+    KeyBoardLineEdit *line = stage.line();
     stage.keypad.setText(u("abc"));
-    press(stage.keypad, "q");
+    CHECKED(press(stage.keypad, "q"));
     QCOMPARE(line->text(), u("q"));
 
     stage.keypad.setText(u("abcdef"));
     line->setSelection(1, 3);
-    press(stage.keypad, "Space");
+    CHECKED(press(stage.keypad, "Space"));
     QCOMPARE(line->text(), u("a ef"));
     QCOMPARE(line->cursorPosition(), 2);
 
     stage.keypad.setMaxLength(5);
     line->setCursorPosition(2);
-    press(stage.keypad, "x y z");
+    CHECKED(press(stage.keypad, "x y z"));
     QCOMPARE(line->text(), u("a xef"));
 
     const QIntValidator numbers(0, 99, nullptr);
     stage.keypad.setText(u("7"));
     line->deselect();
     stage.keypad.setValidator(&numbers);
-    press(stage.keypad, "k 5 . 6 Space");
+    CHECKED(press(stage.keypad, "k 5 . 6 Space"));
     QCOMPARE(line->text(), u("75"));
+}
+
+// An application may reach the edit line, and set what the keypad has no function for.
+void tst_CharacterContent::anInputMaskStaysInForce()
+{
+    CharacterStage stage;
+    stage.line()->setInputMask(u("99:99;_"));
+    stage.line()->setCursorPosition(0);
+    CHECKED(press(stage.keypad, "1 q 2 3"));
+    QCOMPARE(stage.line()->displayText(), u("12:3_"));
+    CHECKED(press(stage.keypad, "4"));
+    stage.line()->setCursorPosition(1);
+    CHECKED(press(stage.keypad, "9"));
+    QCOMPARE(stage.line()->displayText(), u("19:34"));
+}
+
+void tst_CharacterContent::aPasswordStaysMasked_data()
+{
+    addFaceRows();
+}
+
+void tst_CharacterContent::aPasswordStaysMasked()
+{
+    QFETCH(int, face);
+    CharacterStage stage;
+    stage.keypad.setPasswordEchoMode(true);
+    CHECKED(press(stage.keypad, faces[face].taps));
+    stage.open(u("a"));
+    const QString mask = stage.line()->displayText();
+    QVERIFY(mask != u("a"));
+    static const char *const contents[] = { "5", "好", "Space", "Del", ",", "主轴" };
+    for (const char *content : contents) {
+        QVERIFY(sendContent(stage.keypad, u(content)));
+        QCOMPARE(stage.line()->displayText(), mask.repeated(int(stage.line()->text().size())));
+    }
+    QCOMPARE(stage.line()->text(), u("5好,主轴"));
 }
 
 void tst_CharacterContent::theBlankKeySendsNothing()
 {
     CharacterStage stage;
-    press(stage.keypad, "CN n");
+    CHECKED(press(stage.keypad, "CN n"));
     modeKey(stage.keypad)->click();
-    QCOMPARE(face(stage.keypad), u(chinese));
+    QCOMPARE(shownFace(stage.keypad), u(faces[Chinese].shown));
     QCOMPARE(shownPinyin(stage.keypad), u("n"));
-    QCOMPARE(editLine(&stage.keypad)->text(), QString());
+    QCOMPARE(stage.line()->text(), QString());
 }
 
 void tst_CharacterContent::deleteTakesOneCharacterOrTheSelection_data()
@@ -352,34 +354,9 @@ void tst_CharacterContent::deleteTakesOneCharacterOrTheSelection_data()
                  { "derived field", DerivedField, true, "2024|0131", "202|0131" },
                  { "derived field, at the start", DerivedField, true, "|20240131", "|2024013" },
                  { "derived field, no validator", DerivedField, false, "2024|0131", "202|0131" } };
-    for (size_t i = 0; i < sizeof(rows) / sizeof(rows[0]); ++i) {
-        QTest::newRow(rows[i].name)
-            << int(rows[i].target) << rows[i].validated << u(rows[i].before) << u(rows[i].after);
-    }
-}
-
-/* Puts a text with its marks for cursor and selection into the edit line. */
-static void setMarkedText(QLineEdit *line, QString text)
-{
-    const int cursor = int(text.indexOf(QLatin1Char('|')));
-    const int start = int(text.indexOf(QLatin1Char('[')));
-    const int end = int(text.indexOf(QLatin1Char(']'))) - 1;
-    text.remove(QLatin1Char('|')).remove(QLatin1Char('[')).remove(QLatin1Char(']'));
-    line->setText(text);
-    if (start >= 0)
-        line->setSelection(start, end - start);
-    else
-        line->setCursorPosition(cursor);
-}
-
-static QString markedText(const QLineEdit *line)
-{
-    QString text = line->text();
-    if (!line->hasSelectedText())
-        return text.insert(line->cursorPosition(), QLatin1Char('|'));
-    const int start = line->selectionStart();
-    text.insert(start + int(line->selectedText().size()), QLatin1Char(']'));
-    return text.insert(start, QLatin1Char('['));
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << int(row.target) << row.validated << u(row.before)
+                                << u(row.after);
 }
 
 void tst_CharacterContent::deleteTakesOneCharacterOrTheSelection()
@@ -390,20 +367,19 @@ void tst_CharacterContent::deleteTakesOneCharacterOrTheSelection()
     QFETCH(QString, after);
     const WholeDates wholeDates;
     const QScopedPointer<QObject> field(createTarget(TargetKind(target)));
-    static const char *const modesWithDelete[] = { "", "caps", "*#", "CN" };
-    for (int i = 0; i < 4; ++i) {
+    for (const Face &face : faces) {
         CharacterKeypad keypad(nullptr, Qt::WindowFlags());
         keypad.setObject(field.data());
-        press(keypad, modesWithDelete[i]);
+        CHECKED(press(keypad, face.taps));
         if (validated)
             keypad.setValidator(&wholeDates);
         setMarkedText(editLine(&keypad), before);
-        press(keypad, "Del");
+        CHECKED(press(keypad, "Del"));
         QCOMPARE(markedText(editLine(&keypad)), after);
     }
 }
 
-/* The text is set whole, but the edit line tells its listeners of an edit first. */
+// The text is set whole, but the edit line tells its listeners of an edit first.
 void tst_CharacterContent::deletingFromADateIsAnEdit()
 {
     CharacterKeypad keypad(nullptr, Qt::WindowFlags());
@@ -413,7 +389,7 @@ void tst_CharacterContent::deletingFromADateIsAnEdit()
     keypad.setValidator(&numbers);
     setMarkedText(editLine(&keypad), u("2024|0131"));
     QSignalSpy edited(editLine(&keypad), SIGNAL(textEdited(QString)));
-    press(keypad, "Del");
+    CHECKED(press(keypad, "Del"));
     QCOMPARE(markedText(editLine(&keypad)), u("202|0131"));
     QCOMPARE(edited.count(), 1);
     QCOMPARE(edited.at(0).at(0).toString(), u("2020131"));

@@ -7,7 +7,7 @@
 
 namespace {
 
-/* Counts what reaches it of mouse events. */
+// Counts what reaches it of mouse events.
 class Background : public QWidget
 {
 public:
@@ -22,6 +22,17 @@ protected:
     void mousePressEvent(QMouseEvent *) override { ++mouseEvents; }
     void mouseReleaseEvent(QMouseEvent *) override { ++mouseEvents; }
 };
+
+// Presses ("p") and releases ("r") a mouse button.
+void send(QWidget *widget, const QString &events)
+{
+    for (const QChar event : events) {
+        if (event == QLatin1Char('p'))
+            QTest::mousePress(widget, Qt::LeftButton);
+        else
+            QTest::mouseRelease(widget, Qt::LeftButton);
+    }
+}
 
 } // namespace
 
@@ -57,19 +68,25 @@ void tst_ClickLabel::aNewLabelIsACentredText()
 
 void tst_ClickLabel::pressesAndReleasesMakeClicks_data()
 {
-    QTest::addColumn<QString>("events"); // p: press, r: release
+    QTest::addColumn<QString>("events");
     QTest::addColumn<int>("clicks");
 
-    QTest::newRow("nothing") << "" << 0;
-    QTest::newRow("press") << "p" << 0;
-    QTest::newRow("release of a new label") << "r" << 0;
-    QTest::newRow("press and release") << "pr" << 1;
-    QTest::newRow("second release") << "prr" << 1;
-    QTest::newRow("second press before the release") << "ppr" << 1;
-    QTest::newRow("two presses, two releases") << "pprr" << 1;
-    QTest::newRow("release first") << "rpr" << 1;
-    QTest::newRow("three clicks") << "prprpr" << 3;
-    QTest::newRow("click and press") << "prp" << 1;
+    static const struct
+    {
+        const char *name, *events;
+        int clicks;
+    } rows[] = { { "nothing", "", 0 },
+                 { "press", "p", 0 },
+                 { "release of a new label", "r", 0 },
+                 { "press and release", "pr", 1 },
+                 { "second release", "prr", 1 },
+                 { "second press before the release", "ppr", 1 },
+                 { "two presses, two releases", "pprr", 1 },
+                 { "release first", "rpr", 1 },
+                 { "three clicks", "prprpr", 3 },
+                 { "click and press", "prp", 1 } };
+    for (const auto &row : rows)
+        QTest::newRow(row.name) << u(row.events) << row.clicks;
 }
 
 void tst_ClickLabel::pressesAndReleasesMakeClicks()
@@ -78,12 +95,7 @@ void tst_ClickLabel::pressesAndReleasesMakeClicks()
     QFETCH(int, clicks);
     ClickLabel label(u("x"), nullptr);
     QSignalSpy clicked(&label, SIGNAL(clicked()));
-    for (int i = 0; i < events.size(); ++i) {
-        if (events.at(i) == QLatin1Char('p'))
-            QTest::mousePress(&label, Qt::LeftButton);
-        else
-            QTest::mouseRelease(&label, Qt::LeftButton);
-    }
+    send(&label, events);
     QCOMPARE(clicked.count(), clicks);
 }
 

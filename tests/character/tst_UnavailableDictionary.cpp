@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: MIT
+#include "DictionarySession.h"
+#include "support/DictionaryFile.h"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <fcntl.h>
+#include <sys/inotify.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+// Dictionaries that the keypad may not read, or not now: it does not wait for them.
+
+namespace {
+
+const uid_t superuser = 0;
+const uid_t nobody = 65534;
+
+// Another process that holds the dictionary locked.
+class Writer
+{
+public:
+    bool lock()
+    {
+        m_process.start(DictionaryFile::directory() + u("/lock_dictionary"),
+                        QStringList(DictionaryFile::path()));
+        return m_process.waitForReadyRead() && m_process.readAll().startsWith("locked");
+    }
+
+    bool release()
+    {
+        m_process.closeWriteChannel();
+        return m_process.waitForFinished() && m_process.exitCode() == 0;
+    }
+
+private:
+    QProcess m_process;
+};
+
+// Where the test runs as the superuser, who may read anything, it is another user meanwhile: the
+// one who owns the test's directory, as others may have no way into it.
+class OrdinaryUser
+{
+public:
+    OrdinaryUser()
+        : m_former(geteuid())
+    {
+        const uid_t owner = QFileInfo(DictionaryFile::directory()).ownerId();
+        if (m_former == superuser)
+            change(owner == superuser ? nobody : owner);
+    }
+    ~OrdinaryUser()
+    {
+        if (m_former == superuser)
+            change(superuser);
+    }
+
+private:
+    static void change(uid_t user)
+    {
+        if (seteuid(user) != 0)
+            qFatal("cannot become user %u", unsigned(user));
+    }
+
+    uid_t m_former;
+};
+
+// A pipe in the dictionary's place. It is kept open, so that nobody waits for a writer, and
+// watched.
+class Pipe
+{
+public:
+    Pipe()
+        : m_end(-1)
+        , m_watch(inotify_init1(IN_NONBLOCK))
+    {
+    }
+    ~Pipe()
+    {
+        close(m_end);
+        close(m_watch);
+    }
+
+    bool create()
+    {
+        const QByteArray path = QFile::encodeName(DictionaryFile::path());
+        if (mkfifo(path.constData(), S_IRUSR | S_IWUSR) != 0)
+            return false;
+        m_end = open(path.constData(), O_RDWR);
+        return m_end >= 0 && inotify_add_watch(m_watch, path.constData(), IN_OPEN) >= 0;
+    }
+
+    bool wasOpened() const
+    {
+        char event[sizeof(inotify_event) + 256];
+        return read(m_watch, event, sizeof(event)) > 0;
+    }
+
+private:
+    Q_DISABLE_COPY(Pipe)
+
+    int m_end;
+    int m_watch;
+};
+
+// How long the keypad's connection waits for a writer, in milliseconds: SQLite's own way is to hold
+// up a key for seconds.
+int longestWait()
+{
+    QSqlQuery query(QSqlDatabase::database(u("pinyin"), false));
+    return query.exec(u("PRAGMA busy_timeout")) && query.first() ? query.value(0).toInt() : -1;
+}
+
+} // namespace
+
+class tst_UnavailableDictionary : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void noReadPermission();
+    void aPipeIsNotOpened();
+    void lockedWhenTheKeypadIsBuilt();
+    void lockedWhileTyping();
+    void removedWhileTyping();
+
+private:
+    QScopedPointer<DictionaryFile> m_dictionary;
+};
+
+void tst_UnavailableDictionary::init()
+{
+    m_dictionary.reset(new DictionaryFile);
+    CHECKED(m_dictionary->create(everydayWords()));
+}
+
+void tst_UnavailableDictionary::cleanup()
+{
+    m_dictionary.reset();
+}
+
+void tst_UnavailableDictionary::noReadPermission()
+{
+    QVERIFY(QFile::setPermissions(DictionaryFile::path(), QFile::Permissions()));
+    const OrdinaryUser user;
+    if (!QFileInfo(DictionaryFile::path()).isFile())
+        HMI_SKIP("no ordinary user may look into the directory of the test");
+    QCOMPARE(DictionaryFile::bytes(), QByteArray());
+    DictionarySession session;
+    QVERIFY(!session.keypad().findChild<QSqlTableModel *>());
+    session.type("CN n i");
+    QCOMPARE(candidateLine(session.keypad()), QString());
+    session.type("EN");
+    session.workInChinese();
+    session.workInEnglish();
+    QCOMPARE(session.complaint(), QString());
+}
+
+void tst_UnavailableDictionary::aPipeIsNotOpened()
+{
+    m_dictionary->remove();
+    Pipe pipe;
+    QVERIFY(pipe.create());
+    QVERIFY(!pipe.wasOpened());
+    QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
+    DictionarySession session;
+    session.workInChinese();
+    session.workInEnglish();
+    QCOMPARE(session.complaint(), QString());
+    QVERIFY(!pipe.wasOpened());
+    close(open(QFile::encodeName(DictionaryFile::path()).constData(), O_RDONLY));
+    QVERIFY2(pipe.wasOpened(), "this would have been noticed");
+}
+
+void tst_UnavailableDictionary::lockedWhenTheKeypadIsBuilt()
+{
+    Writer writer;
+    QVERIFY(writer.lock());
+    DictionarySession session;
+    QCOMPARE(longestWait(), 0);
+    session.type("CN n i");
+    QCOMPARE(candidateLine(session.keypad()), QString());
+    QCOMPARE(shownPinyin(session.keypad()), u("ni"));
+    session.type("EN");
+    session.workInChinese();
+    session.workInEnglish();
+    QVERIFY(writer.release());
+
+    session.type("CN n");
+    QCOMPARE(candidateLine(session.keypad()), u("嗯 那"));
+    QCOMPARE(session.complaint(), QString());
+}
+
+void tst_UnavailableDictionary::lockedWhileTyping()
+{
+    DictionarySession session;
+    QCOMPARE(longestWait(), 0);
+    session.type("CN n i");
+    QCOMPARE(candidateLine(session.keypad()), u("你 尼 泥 拟 逆"));
+
+    Writer writer;
+    QVERIFY(writer.lock());
+    session.type(">");
+    QCOMPARE(candidateLine(session.keypad()), u("倪 妮 腻 匿 溺"));
+    session.type("n");
+    QCOMPARE(candidateLine(session.keypad()), QString());
+    session.type("EN");
+    session.workInChinese();
+    session.type("n i n");
+    QVERIFY(writer.release());
+
+    session.type("Del");
+    QCOMPARE(candidateLine(session.keypad()), u("你 尼 泥 拟 逆"));
+    session.workInEnglish();
+    QCOMPARE(session.complaint(), QString());
+}
+
+void tst_UnavailableDictionary::removedWhileTyping()
+{
+    DictionarySession session;
+    session.type("CN n i");
+    m_dictionary->remove();
+    session.workInEnglish();
+    session.workInChinese();
+    session.workInEnglish();
+    QCOMPARE(DictionaryFile::entries(), QStringList());
+    QCOMPARE(session.complaint(), QString());
+}
+
+QTEST_MAIN(tst_UnavailableDictionary)
+#include "tst_UnavailableDictionary.moc"
