@@ -36,9 +36,15 @@ class QValidator;
  * Chinese candidates come from the SQLite file "data.db" in the application's directory: table
  * "pinyin", first column "py" (a pinyin of at most 11 lower-case letters, ü as v), second column
  * one candidate, rows in ranking order. Give it an index on "py", or every letter reads the whole
- * table; at most 256 rows of a pinyin are seen. It is opened read-only when the keypad is built,
- * under the connection name "pinyin", and queried once for each letter typed or taken back; without
- * it there are no candidates. Replace a file in use by renaming another over it.
+ * table; at most 256 rows of a pinyin are seen. The file is opened when the keypad is built, under
+ * the connection name "pinyin", and queried once for each letter typed or taken back; without it
+ * there are no candidates. The keypad writes nothing into it, but an application may, through that
+ * connection, so that words can be learned.
+ *
+ * While another process has the file locked for writing, a letter has no candidates; nothing waits,
+ * and the next letter asks again. In return the keypad may keep the file locked for reading from
+ * one letter to the next: replace a file in use by renaming another over it. A program that runs
+ * goes on with the former one.
  */
 class HMIDEVICE_EXPORT CharacterKeypad : public QDialog
 {
@@ -63,15 +69,16 @@ public:
     ~CharacterKeypad() override;
 
     /*!
-     * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
-     * previous target stays. Resets echo mode and maximum length (32767); leaves the edit line's
-     * text, its validator and the key set alone. Blocks the signals of \a object meanwhile and
-     * leaves them unblocked. Does not own it; an object destroyed later counts as no target. An
-     * object without the property gets a dynamic one.
+     * Binds the field to be edited: any object with a "text" property that can be written. Null is
+     * ignored, and the previous target stays. Resets echo mode and maximum length (32767); leaves
+     * the edit line's text, its validator and the key set alone. Blocks the signals of \a object
+     * meanwhile and leaves them unblocked. Does not own it; an object destroyed later counts as no
+     * target. An object without the property gets a dynamic one, and one whose property is
+     * read-only, such as a spin box, keeps its value; exec() says Accepted all the same.
      *
      * When \a object is of a class "DateTimeField", or derived from one, and a validator is set,
-     * "Del" without a selection cuts the character before the cursor even where the validator
-     * would refuse it, and the last one when the cursor is at the beginning.
+     * "Del" without a selection cuts the character before the cursor even where the validator would
+     * refuse it, and the last one when the cursor is at the beginning.
      */
     void setObject(QObject *object);
 
@@ -80,7 +87,8 @@ public:
 
     /*!
      * Restricts what can be entered. Null removes the restriction. Not owned: keep \a validator
-     * alive until it is replaced. It stays set for later targets.
+     * alive until it is replaced. It stays set for later targets. Enter confirms what the validator
+     * calls intermediate as well: look at the field after exec() if its value must be right.
      */
     void setValidator(const QValidator *validator);
 

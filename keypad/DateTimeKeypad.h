@@ -50,11 +50,12 @@ public:
     ~DateTimeKeypad() override;
 
     /*!
-     * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
-     * previous target stays. Resets the edit line's echo mode and maximum length (32767), but not
-     * the format. Blocks the signals of \a object meanwhile and leaves them unblocked. Does not own
-     * it; an object destroyed later counts as no target. An object without the property gets a
-     * dynamic one.
+     * Binds the field to be edited: any object with a "text" property that can be written. Null is
+     * ignored, and the previous target stays. Resets the edit line's echo mode and maximum length
+     * (32767), but not the format. Blocks the signals of \a object meanwhile and leaves them
+     * unblocked. Does not own it; an object destroyed later counts as no target. An object without
+     * the property gets a dynamic one, and one whose property is read-only, such as a spin box,
+     * keeps its value; exec() says Accepted all the same.
      */
     void setObject(QObject *object);
 

@@ -49,11 +49,13 @@ public:
     ~vondKeypad() override;
 
     /*!
-     * Binds the field to be edited: any object with a "text" property. Null is ignored, and the
-     * previous target stays. Resets echo mode, maximum length (32767) and enables every key; leaves
-     * the edit line's text, its validator and the limit line alone. Blocks the signals of \a object
-     * meanwhile and leaves them unblocked. Does not own it; an object destroyed later counts as no
-     * target. An object without the property gets a dynamic one.
+     * Binds the field to be edited: any object with a "text" property that can be written. Null is
+     * ignored, and the previous target stays. Resets echo mode, maximum length (32767) and enables
+     * every key; leaves the edit line's text, its validator and the limit line alone. Blocks the
+     * signals of \a object meanwhile and leaves them unblocked. Does not own it; an object
+     * destroyed later counts as no target. An object without the property gets a dynamic one, and
+     * one whose property is read-only, such as a spin box, keeps its value; exec() says Accepted
+     * all the same.
      */
     void setObject(QObject *object);
 
@@ -63,12 +65,17 @@ public:
     /*! Ignored: the "." key is always enabled. */
     void setDecimalPointEnabled(bool enabled);
 
-    /*! The longest text, in characters, that can be entered; until the next setObject(). */
+    /*!
+     * The longest text, in characters, that can be entered; until the next setObject(). The sign
+     * counts, and one put in front of a text of that length cuts its last character off.
+     */
     void setMaxLength(int length);
 
     /*!
      * Restricts what can be entered. Null removes the restriction. Not owned: keep \a validator
-     * alive until it is replaced. It stays set for later targets.
+     * alive until it is replaced. It stays set for later targets. Enter confirms what the validator
+     * calls intermediate as well, and the sign key asks no validator: look at the field after
+     * exec() if its value must be right.
      */
     void setValidator(const QValidator *validator);
 
