@@ -14,6 +14,7 @@ class tst_hmi_dictionary_terminal : public QObject
 
 private Q_SLOTS:
     void progress();
+    void aPercentageIsShownOnce();
     void complaintsStandOnLinesOfTheirOwn();
     void failuresStandOnLinesOfTheirOwn();
     void noProgressElsewhere();
@@ -88,6 +89,12 @@ void tst_hmi_dictionary_terminal::progress()
         expected += QByteArray(shown) + clearedLine;
     const QByteArray fourWordsOfOneKey = "啊\ta\t1\n阿\ta\t2\n吖\ta\t3\n呵\ta\t4\n";
     QCOMPARE(shownWhileMaking(fourWordsOfOneKey), expected);
+}
+
+void tst_hmi_dictionary_terminal::aPercentageIsShownOnce()
+{
+    const QByteArray shown = shownWhileMaking(QByteArray("啊\ta\t1\n").repeated(300));
+    QCOMPARE(shown.count("Reading words 50%"), 1);
 }
 
 void tst_hmi_dictionary_terminal::complaintsStandOnLinesOfTheirOwn()
