@@ -7,6 +7,7 @@
 #include "Interruption.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 

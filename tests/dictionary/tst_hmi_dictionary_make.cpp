@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "DictionaryProgram.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QtTest>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DictionaryProgram.h"
 
+#include <QFile>
 #include <QSet>
 #include <QtTest>
 
