@@ -309,6 +309,11 @@ void tst_CharacterContent::aPasswordStaysMasked()
         QCOMPARE(stage.line()->displayText(), mask.repeated(int(stage.line()->text().size())));
     }
     QCOMPARE(stage.line()->text(), u("5好,主轴"));
+
+    stage.activate();
+    stage.line()->setFocus();
+    QTest::keyClick(stage.line(), Qt::Key_7);
+    QCOMPARE(stage.line()->displayText(), mask.repeated(6));
 }
 
 void tst_CharacterContent::theBlankKeySendsNothing()

@@ -6,6 +6,7 @@
 #include <QIntValidator>
 #include <QSignalMapper>
 #include <QSqlDatabase>
+#include <QSqlQuery>
 
 // The keypad's wiring, its binding and its life. What the keys do is in tst_CharacterContent and
 // tst_Pinyin.
@@ -58,6 +59,7 @@ private Q_SLOTS:
     void bindingLeavesTheKeySetAlone();
     void deletingItIsSilent_data();
     void deletingItIsSilent();
+    void deletingItEndsWhatAnApplicationBegan();
     void itCanBeBuiltAgain();
 };
 
@@ -181,6 +183,22 @@ void tst_CharacterKeypad::deletingItIsSilent()
     if (!withView)
         delete view;
     QCOMPARE(log.messages(), QStringList());
+}
+
+void tst_CharacterKeypad::deletingItEndsWhatAnApplicationBegan()
+{
+    DictionaryFile dictionary;
+    CHECKED(dictionary.create(everydayWords()));
+    const QByteArray before = DictionaryFile::bytes();
+    MessageLog log; // of what Qt says about a connection that is still held
+    QScopedPointer<CharacterKeypad> keypad(new CharacterKeypad(nullptr, Qt::WindowFlags()));
+    QSqlDatabase held = QSqlDatabase::database(u("pinyin"));
+    QVERIFY(held.transaction());
+    QVERIFY(QSqlQuery(held).exec(DictionaryFile::insertion("qq", u("轻切"))));
+    keypad.reset();
+    QVERIFY(!held.isOpen());
+    QCOMPARE(DictionaryFile::bytes(), before);
+    QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
 }
 
 void tst_CharacterKeypad::itCanBeBuiltAgain()
