@@ -173,8 +173,7 @@ void tst_FixedFaces::theFirstSizeIs320x240()
 
 void tst_FixedFaces::onlyTheArrowsAreTranslated()
 {
-    ContextTranslator translator;
-    QApplication::installTranslator(&translator);
+    const ContextTranslator translator;
     AnyStage stage;
     QStringList expected = labelList(currentFace().created);
     expected.replaceInStrings(u("←"), u("/←"));

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void aTargetMayDestroyTheKeypad();
     void cancellingWritesNothing_data();
     void cancellingWritesNothing();
+    void cancellingNeedsNoTarget();
 };
 
 void tst_KeypadClosing::initTestCase_data()
@@ -306,6 +307,14 @@ void tst_KeypadClosing::cancellingWritesNothing()
     QCOMPARE(int(rejected.count()), 1);
     QCOMPARE(target.text(), u("as it was"));
     QCOMPARE(stage.line()->text(), u(currentKind().sampleText));
+}
+
+void tst_KeypadClosing::cancellingNeedsNoTarget()
+{
+    PanelView view(1);
+    const QScopedPointer<AnyKeypad> keypad(currentKind().create(&view, Qt::WindowFlags()));
+    CHECKED(execWhile(
+        keypad->dialog(), [&] { CHECKED(keypad->cancel()); }, Rejects));
 }
 
 QTEST_MAIN(tst_KeypadClosing)

@@ -2,14 +2,16 @@
 #ifndef TRANSLATORS_H
 #define TRANSLATORS_H
 
+#include <QCoreApplication>
 #include <QString>
 #include <QTranslator>
 
-// Translates every text of every context: puts the context in front of it. Removes itself from the
-// application when it goes.
+// Translates every text of every context, while it lives: puts the context in front of it.
 class ContextTranslator : public QTranslator
 {
 public:
+    ContextTranslator() { QCoreApplication::installTranslator(this); }
+
     bool isEmpty() const override { return false; }
 
     // Qt 4 asks the first, later ones the second.
