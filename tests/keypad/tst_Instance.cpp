@@ -7,11 +7,15 @@
 #include <HMIDevice/NumericKeypad.h>
 #include <HMIDevice/vondKeypad.h>
 
+namespace {
+
 template <class Keypad>
-static QDialog *instanceOf()
+QDialog *instanceOf()
 {
     return Keypad::instance();
 }
+
+} // namespace
 
 typedef QDialog *(*Instance)();
 Q_DECLARE_METATYPE(Instance)

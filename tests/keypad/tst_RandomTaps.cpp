@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/AnyKeypad.h"
 #include "support/EditLineModel.h"
-#include "support/KeypadStage.h"
 #include "support/QtDifferences.h"
-
-#include <HMIDevice/NumericKeypad.h>
-#include <HMIDevice/vondKeypad.h>
 
 #include <QValidator>
 
@@ -36,6 +33,24 @@ public:
     }
 };
 
+// Every key that does not end the entry; editing keys as often as all others together.
+QStringList keysToTap(const QDialog *keypad)
+{
+    QStringList editing = labelList("← → BSP");
+    if (currentKind().has(TogglesSign))
+        editing << u(currentKind().signLabel);
+    QStringList keys;
+    const QStringList labels = keyLabels(keypad);
+    for (const QString &label : labels) {
+        if (label != u("ESC") && label != u("Enter") && !editing.contains(label))
+            keys << label;
+    }
+    const int typing = int(keys.size());
+    while (keys.size() < 2 * typing)
+        keys << editing;
+    return keys;
+}
+
 void tapInModel(EditLineModel *model, const QString &label)
 {
     if (label == u("←"))
@@ -44,56 +59,41 @@ void tapInModel(EditLineModel *model, const QString &label)
         model->moveRight();
     else if (label == u("BSP"))
         model->erase();
-    else if (label == u("+/-") || label == u("-"))
+    else if (label == u(currentKind().signLabel))
         model->toggleSign();
     else
         model->insert(label.length() > 1 ? u(" ") : label);
 }
 
-// Taps and now and then a new text; editing keys come up as often as all others together.
-template <class Keypad>
-void tapAtRandom(const char *typing, const char *editing, unsigned seed, int longest, bool checked)
-{
-    const QStringList typingLabels = labelList(typing);
-    const QStringList editingLabels = labelList(editing);
-    const QStringList texts = labelList("0 -12.5 3.14159 X-5 -X-5 1-2-3 99999999 -");
-    const NumberLikeValidator validator;
-    KeypadStage<Keypad> stage;
-    stage.open();
-    EditLineModel model;
-    model.setMaxLength(longest);
-    stage.keypad.setMaxLength(longest);
-    if (checked) {
-        model.setRule(isNumberLike);
-        stage.keypad.setValidator(&validator);
-    }
+} // namespace
 
-    std::mt19937 random(seed);
-    QStringList history;
-    for (int step = 0; step < steps; ++step) {
-        if (random() % 50 == 0) {
-            const QString text = texts.at(int(random() % unsigned(texts.size())));
-            history = QStringList(u("set ") + text);
-            stage.keypad.setText(text);
-            model.show(text);
-        } else {
-            const QStringList &labels = random() % 2 == 0 ? typingLabels : editingLabels;
-            const QString label = labels.at(int(random() % unsigned(labels.size())));
-            history << label;
-            CHECKED(tap(&stage.keypad, label));
-            tapInModel(&model, label);
-        }
-        QVERIFY2(
-            described(stage.line()) == described(model),
-            qPrintable(QString::fromLatin1("step %1, after %2: %3, not %4")
-                           .arg(step)
-                           .arg(history.join(u(" ")), described(stage.line()), described(model))));
-    }
-    QVERIFY(stage.keypad.isVisible());
-    QCOMPARE(stage.target.text(), QString());
+class tst_RandomTaps : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void initTestCase();
+    void theEditLineKeepsToTheModel_data();
+    void theEditLineKeepsToTheModel();
+
+private:
+    QString oneOf(const QStringList &list) { return list.at(int(m_random() % list.size())); }
+
+    std::mt19937 m_random;
+};
+
+void tst_RandomTaps::initTestCase_data()
+{
+    addKeypadRows(FixedFace);
 }
 
-void addRows()
+void tst_RandomTaps::initTestCase()
+{
+    QtDifferences::readLiteralsAsGbk();
+}
+
+void tst_RandomTaps::theEditLineKeepsToTheModel_data()
 {
     QTest::addColumn<int>("seed");
     QTest::addColumn<int>("longest");
@@ -106,51 +106,47 @@ void addRows()
     QTest::newRow("validated, five characters") << 6 << 5 << true;
 }
 
-} // namespace
-
-class tst_RandomTaps : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void numericKeypadKeepsToTheModel_data();
-    void numericKeypadKeepsToTheModel();
-    void axisKeypadKeepsToTheModel_data();
-    void axisKeypadKeepsToTheModel();
-};
-
-void tst_RandomTaps::initTestCase()
-{
-    QtDifferences::readLiteralsAsGbk();
-}
-
-void tst_RandomTaps::numericKeypadKeepsToTheModel_data()
-{
-    addRows();
-}
-
-void tst_RandomTaps::numericKeypadKeepsToTheModel()
+// Taps, and now and then a new text.
+void tst_RandomTaps::theEditLineKeepsToTheModel()
 {
     QFETCH(int, seed);
     QFETCH(int, longest);
     QFETCH(bool, checked);
-    CHECKED(tapAtRandom<NumericKeypad>("0 1 2 3 4 5 6 7 8 9 A B C D E F .", "← → BSP +/-",
-                                       unsigned(seed), longest, checked));
-}
+    AnyStage stage;
+    stage.open();
+    EditLineModel model;
+    model.setMaxLength(longest);
+    stage.keypad.setMaxLength(longest);
+    const NumberLikeValidator validator;
+    if (checked) {
+        model.setRule(isNumberLike);
+        stage.keypad.setValidator(&validator);
+    }
 
-void tst_RandomTaps::axisKeypadKeepsToTheModel_data()
-{
-    addRows();
-}
-
-void tst_RandomTaps::axisKeypadKeepsToTheModel()
-{
-    QFETCH(int, seed);
-    QFETCH(int, longest);
-    QFETCH(bool, checked);
-    CHECKED(tapAtRandom<vondKeypad>("F G 7 8 9 U A X 4 5 6 V B Y 1 2 3 W C Z 0 . └─┘", "← → BSP -",
-                                    unsigned(seed + 100), longest, checked));
+    const QStringList texts = labelList("0 -12.5 3.14159 X-5 -X-5 1-2-3 99999999 -");
+    const QStringList keys = keysToTap(stage.dialog());
+    m_random.seed(unsigned(seed));
+    QStringList history;
+    for (int step = 0; step < steps; ++step) {
+        if (m_random() % 50 == 0) {
+            const QString text = oneOf(texts);
+            history = QStringList(u("set ") + text);
+            stage.keypad.setText(text);
+            model.show(text);
+        } else {
+            const QString label = oneOf(keys);
+            history << label;
+            CHECKED(tap(stage.dialog(), label));
+            tapInModel(&model, label);
+        }
+        const QString shown = described(stage.line());
+        QVERIFY2(shown == described(model),
+                 qPrintable(QString::fromLatin1("step %1, after %2: %3, not %4")
+                                .arg(step)
+                                .arg(history.join(u(" ")), shown, described(model))));
+    }
+    QVERIFY(stage.dialog()->isVisible());
+    QCOMPARE(stage.target.text(), QString());
 }
 
 QTEST_MAIN(tst_RandomTaps)

@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "support/KeypadStage.h"
-
-#include <HMIDevice/NumericKeypad.h>
-#include <HMIDevice/vondKeypad.h>
+#include "support/AnyKeypad.h"
 
 #include <QIntValidator>
-#include <QScopedPointer>
 
 // The sign key of the numeric and of the axis keypad: every test runs for both.
+
+namespace {
+
+// Asserts that there is a sign key.
+void tapSign(AnyStage *stage)
+{
+    CHECKED(tap(stage->dialog(), u(currentKind().signLabel)));
+}
+
+} // namespace
+
 class tst_SignKey : public QObject
 {
     Q_OBJECT
@@ -23,50 +30,9 @@ private Q_SLOTS:
     void theMaximumLengthCutsTheEnd();
 };
 
-namespace {
-
-// A keypad that is open on a text, whichever of the two it is.
-class SignStage
-{
-public:
-    explicit SignStage(const QString &text)
-    {
-        QFETCH_GLOBAL(QString, keypad);
-        QFETCH_GLOBAL(QString, signLabel);
-        m_signLabel = signLabel;
-        if (keypad == u("NumericKeypad"))
-            open(&m_numeric, text);
-        else
-            open(&m_axis, text);
-    }
-
-    void tapSign() { CHECKED(tap(m_dialog, m_signLabel)); }
-    void tapKey(const char *label) { CHECKED(tap(m_dialog, u(label))); }
-    QLineEdit *line() { return editLine(m_dialog); }
-
-private:
-    template <class Stage>
-    void open(QScopedPointer<Stage> *stage, const QString &text)
-    {
-        stage->reset(new Stage);
-        (*stage)->open(text);
-        m_dialog = (*stage)->dialog();
-    }
-
-    QString m_signLabel;
-    QDialog *m_dialog;
-    QScopedPointer<KeypadStage<NumericKeypad>> m_numeric;
-    QScopedPointer<KeypadStage<vondKeypad>> m_axis;
-};
-
-} // namespace
-
 void tst_SignKey::initTestCase_data()
 {
-    QTest::addColumn<QString>("keypad");
-    QTest::addColumn<QString>("signLabel");
-    QTest::newRow("numeric") << u("NumericKeypad") << u("+/-");
-    QTest::newRow("axis") << u("vondKeypad") << u("-");
+    addKeypadRows(TogglesSign);
 }
 
 void tst_SignKey::theLeadingMinusComesAndGoes_data()
@@ -104,11 +70,12 @@ void tst_SignKey::theLeadingMinusComesAndGoes()
     QFETCH(int, cursor);
     QFETCH(QString, newText);
     QFETCH(int, newCursor);
-    SignStage stage(text);
+    AnyStage stage;
+    stage.open(text);
     if (cursor >= 0)
         stage.line()->setCursorPosition(cursor);
 
-    CHECKED(stage.tapSign());
+    CHECKED(tapSign(&stage));
 
     QCOMPARE(stage.line()->text(), newText);
     if (newCursor >= 0) {
@@ -121,11 +88,12 @@ void tst_SignKey::theLeadingMinusComesAndGoes()
 
 void tst_SignKey::twiceGivesTheSameTextAndCursor()
 {
-    SignStage stage(u("12.5"));
+    AnyStage stage;
+    stage.open(u("12.5"));
     for (int cursor = 0; cursor <= 4; ++cursor) {
         stage.line()->setCursorPosition(cursor);
-        CHECKED(stage.tapSign());
-        CHECKED(stage.tapSign());
+        CHECKED(tapSign(&stage));
+        CHECKED(tapSign(&stage));
         QCOMPARE(stage.line()->text(), u("12.5"));
         QCOMPARE(stage.line()->cursorPosition(), cursor);
     }
@@ -133,37 +101,41 @@ void tst_SignKey::twiceGivesTheSameTextAndCursor()
 
 void tst_SignKey::aToggledValueIsStillReplacedByTheNextDigit()
 {
-    SignStage stage(u("3.5"));
-    CHECKED(stage.tapSign());
+    AnyStage stage;
+    stage.open(u("3.5"));
+    CHECKED(tapSign(&stage));
     QCOMPARE(stage.line()->selectedText(), u("-3.5"));
-    CHECKED(stage.tapKey("7"));
+    CHECKED(tap(stage.dialog(), u("7")));
     QCOMPARE(stage.line()->text(), u("7"));
 }
 
 void tst_SignKey::aPartSelectedBecomesAllSelected()
 {
-    SignStage stage(u("123"));
+    AnyStage stage;
+    stage.open(u("123"));
     stage.line()->setSelection(1, 1);
-    CHECKED(stage.tapSign());
+    CHECKED(tapSign(&stage));
     QCOMPARE(stage.line()->selectedText(), u("-123"));
 }
 
 void tst_SignKey::theValidatorIsPassedBy()
 {
-    SignStage stage(u("5"));
+    AnyStage stage;
+    stage.open(u("5"));
     QIntValidator validator(0, 99, nullptr);
     stage.line()->setValidator(&validator);
-    CHECKED(stage.tapSign());
+    CHECKED(tapSign(&stage));
     QCOMPARE(stage.line()->text(), u("-5"));
     QVERIFY(!stage.line()->hasAcceptableInput());
 }
 
 void tst_SignKey::theMaximumLengthCutsTheEnd()
 {
-    SignStage stage(u("X12"));
+    AnyStage stage;
+    stage.open(u("X12"));
     stage.line()->setMaxLength(3);
     stage.line()->setCursorPosition(3);
-    CHECKED(stage.tapSign());
+    CHECKED(tapSign(&stage));
     QCOMPARE(stage.line()->text(), u("-X1"));
     QCOMPARE(stage.line()->cursorPosition(), 3);
 }

@@ -49,15 +49,15 @@ AnyKeypad *create(QWidget *parent, Qt::WindowFlags flags)
 
 // clang-format off
 const KeypadKind keypadKinds[] = {
-    { "NumericKeypad", create<FixedFaceAdaptor<NumericKeypad>>, "Enter", "ESC",
-      "12.5", "-3", FixedFace | TypesText },
-    { "GCodeKeypad", create<FixedFaceAdaptor<GCodeKeypad>>, "Enter", "ESC",
+    { "NumericKeypad", create<FixedFaceAdaptor<NumericKeypad>>, "Enter", "ESC", "+/-",
+      "12.5", "-3", FixedFace | TypesText | TogglesSign },
+    { "GCodeKeypad", create<FixedFaceAdaptor<GCodeKeypad>>, "Enter", "ESC", nullptr,
       "G01X5", "M30", FixedFace | TypesText | CoversTarget },
-    { "vondKeypad", create<FixedFaceAdaptor<vondKeypad>>, "Enter", "ESC",
-      "X12.5", "-Y3", FixedFace | TypesText },
-    { "DateTimeKeypad", create<Adaptor<DateTimeKeypad>>, "Ok", "Cancel",
+    { "vondKeypad", create<FixedFaceAdaptor<vondKeypad>>, "Enter", "ESC", "-",
+      "X12.5", "-Y3", FixedFace | TypesText | TogglesSign },
+    { "DateTimeKeypad", create<Adaptor<DateTimeKeypad>>, "Ok", "Cancel", nullptr,
       "2024-02-29 12:34:56", "1999-12-31 23:59:59", 0 },
-    { "CharacterKeypad", create<Adaptor<CharacterKeypad>>, "Enter", "Esc",
+    { "CharacterKeypad", create<Adaptor<CharacterKeypad>>, "Enter", "Esc", nullptr,
       "abc", "hello world", TypesText }
 };
 // clang-format on

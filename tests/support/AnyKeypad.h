@@ -30,9 +30,10 @@ public:
 };
 
 enum KeypadTrait {
-    FixedFace = 1,   // a line for limits; binding enables all keys; 320x240 pixels at first
-    TypesText = 2,   // selects its text, answers hard keys, is dark on panel type 13
-    CoversTarget = 4 // lies over its target instead of the view
+    FixedFace = 1,    // a line for limits; binding enables all keys; 320x240 pixels at first
+    TypesText = 2,    // selects its text, answers hard keys, is dark on panel type 13
+    CoversTarget = 4, // lies over its target instead of the view
+    TogglesSign = 8   // has a sign key
 };
 
 struct KeypadKind
@@ -41,6 +42,7 @@ struct KeypadKind
     AnyKeypad *(*create)(QWidget *parent, Qt::WindowFlags flags);
     const char *confirmLabel;
     const char *cancelLabel;
+    const char *signLabel;  // null without a sign key
     const char *sampleText; // shown unchanged
     const char *otherText;  // the same
     int traits;
