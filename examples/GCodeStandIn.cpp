@@ -6,11 +6,26 @@
 #include <QGraphicsView>
 #include <QVariant>
 
+namespace {
+
+QRect placeOf(const QWidget *field)
+{
+    QWidget *viewport = HMIDeviceInfo::graphicsView()->viewport();
+    return QRect(field->mapTo(viewport, QPoint(0, 0)), field->size());
+}
+
+} // namespace
+
 GCodeStandIn::GCodeStandIn(QWidget *field)
     : m_field(field)
 {
-    const QWidget *viewport = HMIDeviceInfo::graphicsView()->viewport();
-    setGeometry(QRect(field->mapTo(viewport, QPoint(0, 0)), field->size()));
+    setGeometry(placeOf(field));
+}
+
+GCodeStandIn::GCodeStandIn(QWidget *field, const QRect &place)
+    : m_field(field)
+{
+    setGeometry(place);
 }
 
 QString GCodeStandIn::text() const
