@@ -76,6 +76,7 @@ class tst_Dictionary : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
+    void theTableIsReadWhenTheKeypadIsBuilt();
     void eachLetterAsksOnce_data();
     void eachLetterAsksOnce();
     void pagingHoldsWhileTheFileChanges();
@@ -103,6 +104,15 @@ void tst_Dictionary::init()
 void tst_Dictionary::cleanup()
 {
     m_dictionary.reset();
+}
+
+void tst_Dictionary::theTableIsReadWhenTheKeypadIsBuilt()
+{
+    CharacterKeypad keypad(nullptr, Qt::WindowFlags());
+    const QSqlTableModel *model = keypad.findChild<QSqlTableModel *>();
+    QVERIFY(model);
+    QCOMPARE(model->filter(), QString());
+    QCOMPARE(model->rowCount(), int(everydayWords().size()));
 }
 
 void tst_Dictionary::eachLetterAsksOnce_data()
