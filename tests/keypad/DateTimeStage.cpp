@@ -30,6 +30,13 @@ void DateTimeStage::focus(int number)
     QVERIFY(field(number)->hasFocus());
 }
 
+void DateTimeStage::work(int number, const QString &labels)
+{
+    keypad.setText(u(shownTime));
+    CHECKED(focus(number));
+    CHECKED(tapAll(&keypad, labels));
+}
+
 QVector<int> DateTimeStage::numbers()
 {
     QVector<int> values;

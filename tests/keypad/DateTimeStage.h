@@ -36,6 +36,9 @@ public:
     // that the field has the focus.
     void focus(int number);
 
+    // Taps keys of a field, which the shown time has filled. Asserts that there are such keys.
+    void work(int number, const QString &labels);
+
     QVector<int> numbers();
     QString values(); // of all fields, separated by blanks
     QString display() { return line()->text(); }

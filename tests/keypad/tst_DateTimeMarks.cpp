@@ -71,9 +71,7 @@ void tst_DateTimeMarks::anEmptiedFieldIsInvalid()
 {
     QFETCH(int, number);
     DateTimeStage stage;
-    stage.keypad.setText(u(shownTime));
-    CHECKED(stage.focus(number));
-    CHECKED(tap(&stage.keypad, u("Delete")));
+    CHECKED(stage.work(number, u("Delete")));
     QCOMPARE(stage.field(number)->text(), QString());
     for (int i = 0; i < FieldCount; ++i)
         QCOMPARE(mark(stage.field(i)) == u(invalid), i == number);
@@ -94,9 +92,7 @@ void tst_DateTimeMarks::digitsThatAreNoValueAreInvalid()
     QFETCH(int, number);
     QFETCH(QString, taps);
     DateTimeStage stage;
-    stage.keypad.setText(u(shownTime));
-    CHECKED(stage.focus(number));
-    CHECKED(tapAll(&stage.keypad, taps));
+    CHECKED(stage.work(number, taps));
     QTEST(stage.field(number)->text(), "text");
     QTEST(mark(stage.field(number)), "colour");
 }
@@ -140,9 +136,7 @@ void tst_DateTimeMarks::finishedEditingTakesTheMarkAway()
     QPalette red = month->palette();
     red.setColor(QPalette::Text, Qt::red);
     month->setPalette(red);
-    stage.keypad.setText(u(shownTime));
-    CHECKED(stage.focus(Month));
-    CHECKED(tapAll(&stage.keypad, u("Delete 0")));
+    CHECKED(stage.work(Month, u("Delete 0")));
     QCOMPARE(mark(month), u(invalid));
     pressHardKey(&stage.keypad, hardKey);
 
