@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 #
-# The installed library: shared object or archive, headers, CMake package, pkg-config file, licence.
+# The installed library: shared object or archive, headers, CMake package, pkg-config file, manual,
+# licence. The programs of other rooms install themselves.
 
 include(CMakePackageConfigHelpers)
 
@@ -9,16 +10,21 @@ set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/HMIDevice)
 install(TARGETS HMIDevice EXPORT HMIDeviceTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES LICENSE README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+set(HMI_DICTIONARY ${CMAKE_INSTALL_DATADIR}/HMIDevice/data.db)
 
 install(EXPORT HMIDeviceTargets NAMESPACE HMIDevice:: DESTINATION ${package_dir})
 configure_package_config_file(cmake/HMIDeviceConfig.cmake.in HMIDeviceConfig.cmake
     INSTALL_DESTINATION ${package_dir}
+    PATH_VARS HMI_DICTIONARY
     NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(HMIDeviceConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES
         ${PROJECT_BINARY_DIR}/HMIDeviceConfig.cmake
         ${PROJECT_BINARY_DIR}/HMIDeviceConfigVersion.cmake
+        cmake/HMIDeviceDictionary.cmake
     DESTINATION ${package_dir})
 
 # The file names its prefix relative to itself, so that a prefix can be moved.
