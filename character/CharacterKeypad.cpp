@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CharacterKeypad.h"
 
+#include "CharacterKeys_p.h"
 #include "ChnPanel.h"
 #include "ClickLabel.h"
 #include "HMIDeviceInfo.h"
@@ -19,22 +20,11 @@
 #include <QToolButton>
 #include <QVariant>
 
+using namespace CharacterKeys;
+
 namespace {
 
 const int gridColumns = 20;
-const int longestPinyin = 11; // letters
-
-const char capsLabel[] = "caps";      // while lower case is shown
-const char lowerCaseLabel[] = "CAPS"; // while capitals are shown
-const char chineseLabel[] = "CN";
-const char englishLabel[] = "EN";
-const char symbolsLabel[] = "*#";
-const char backLabel[] = "<<"; // from symbols
-const char delLabel[] = "Del";
-const char escLabel[] = "Esc";
-const char enterLabel[] = "Enter";
-const char spaceLabel[] = "Space";
-const char ampersandLabel[] = "&&"; // which a tool button shows as one ampersand
 
 // clang-format off
 const Keypad::KeyCell keyCells[] = {
@@ -87,15 +77,6 @@ const char *const symbolKeys[] = {
 
 const int letterCount = int(sizeof(symbolKeys) / sizeof(symbolKeys[0]));
 
-// The lower-case letters of the letter keys, which have the first cells.
-QString letters()
-{
-    QString all;
-    for (int i = 0; i < letterCount; ++i)
-        all += QLatin1String(keyCells[i].label);
-    return all;
-}
-
 // The hidden one goes first, so that the layout never has to find room for both.
 void showPanel(QWidget *shown, QWidget *hidden)
 {
@@ -103,15 +84,15 @@ void showPanel(QWidget *shown, QWidget *hidden)
     shown->show();
 }
 
-// What the edit line will take of a text. It copies that part of a longer one again for each
-// character in it: a candidate of a megabyte would hold a slow panel up for seconds.
-QString fittingPart(const QLineEdit *line, const QString &text)
-{
-    const int kept = int(line->text().size() - line->selectedText().size());
-    return line->inputMask().isEmpty() ? text.left(line->maxLength() - kept) : text;
-}
-
 } // namespace
+
+QString CharacterKeys::letters()
+{
+    QString all;
+    for (int i = 0; i < letterCount; ++i)
+        all += QLatin1String(keyCells[i].label);
+    return all;
+}
 
 CharacterKeypad *CharacterKeypad::m_instance = nullptr;
 
@@ -183,25 +164,6 @@ void CharacterKeypad::showEvent(QShowEvent *event)
     Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
-}
-
-void CharacterKeypad::sendContent(const QString &text)
-{
-    if (text.isEmpty())
-        return;
-    // The mapper may replace the string while it is worked on: candidates are mapped anew.
-    const QString key = text;
-    switch (m_mode) {
-    case SymbolMode:
-        sendSpecialSymbols(key);
-        break;
-    case ChineseMode:
-        sendChnContent(key);
-        break;
-    default:
-        sendEnContent(key);
-        break;
-    }
 }
 
 // The face
@@ -307,134 +269,9 @@ void CharacterKeypad::labelLetters(const QString &letters, const char *modeLabel
     m_symbolKey->setEnabled(true);
 }
 
-void CharacterKeypad::setModes(Mode last, Mode current)
-{
-    m_lastMode = last;
-    m_mode = current;
-}
-
-// What the keys do
-
-void CharacterKeypad::sendEnContent(const QString &text)
-{
-    if (text == QLatin1String(chineseLabel)) {
-        setUpChanese();
-        setModes(EnglishMode, ChineseMode);
-    } else if (text == QLatin1String(symbolsLabel)) {
-        setUpSpecialSymbols();
-        setModes(EnglishMode, SymbolMode);
-    } else if (text == QLatin1String(capsLabel)) {
-        setUpEnglishCaps();
-    } else if (text == QLatin1String(lowerCaseLabel)) {
-        setUpEnglish();
-    } else {
-        editText(text);
-    }
-}
-
-void CharacterKeypad::sendSpecialSymbols(const QString &text)
-{
-    if (text != QLatin1String(backLabel)) {
-        editText(text == QLatin1String(ampersandLabel) ? QString(QLatin1Char('&')) : text);
-    } else if (m_lastMode == EnglishMode) {
-        setUpEnglish();
-        setModes(SymbolMode, EnglishMode);
-    } else if (m_lastMode == ChineseMode) {
-        setUpChanese();
-        setModes(SymbolMode, ChineseMode);
-    }
-}
-
-void CharacterKeypad::sendChnContent(const QString &text)
-{
-    if (text == QLatin1String(englishLabel)) {
-        clearComposition();
-        setUpEnglish();
-        setModes(ChineseMode, EnglishMode);
-    } else if (text == QLatin1String(symbolsLabel)) {
-        clearComposition();
-        setUpSpecialSymbols();
-        setModes(ChineseMode, SymbolMode);
-    } else if (text == QLatin1String(delLabel) && !pinyin().isEmpty()) {
-        compose(pinyin().left(pinyin().length() - 1));
-    } else if (text == QLatin1String(delLabel) || text == QLatin1String(spaceLabel)) {
-        editText(text);
-    } else if (letters().contains(text)) {
-        if (pinyin().length() < longestPinyin)
-            compose(pinyin() + text);
-    } else if (text == QLatin1String(">")) {
-        m_chnPanel->nextPage(m_candidates, m_signalMapper);
-    } else if (text == QLatin1String("<")) {
-        m_chnPanel->prePage(m_candidates, m_signalMapper);
-    } else {
-        clearComposition();
-        editText(text);
-    }
-}
-
-void CharacterKeypad::editText(const QString &key)
-{
-    if (key == QLatin1String(delLabel))
-        deleteCharacter();
-    else if (key == QLatin1String(escLabel))
-        reject();
-    else if (key == QLatin1String(enterLabel))
-        Keypad::confirm(this, m_object, m_lineEdit);
-    else if (key == QLatin1String(spaceLabel))
-        m_lineEdit->insert(QString(QLatin1Char(' ')));
-    else
-        m_lineEdit->insert(fittingPart(m_lineEdit, key));
-}
-
-void CharacterKeypad::deleteCharacter()
-{
-    if (!m_lineEdit->validator() || !targetIsDateTimeField() || m_lineEdit->hasSelectedText()) {
-        m_lineEdit->backspace();
-        return;
-    }
-    // A validator that knows only whole dates may refuse backspace(), which is still tried so that
-    // the edit line tells of an edit; the shorter text is then set whole.
-    const int cursor = m_lineEdit->cursorPosition();
-    QString text = m_lineEdit->text();
-    text.remove(cursor - 1, 1);
-    m_lineEdit->backspace();
-    m_lineEdit->setText(text);
-    m_lineEdit->setCursorPosition(cursor - 1);
-}
-
-bool CharacterKeypad::targetIsDateTimeField() const
-{
-    return m_object && m_object->inherits("DateTimeField");
-}
-
-// Pinyin
+// The dictionary
 
 void CharacterKeypad::openDb()
 {
     m_dictionary = PinyinDictionary::open(this);
-}
-
-QString CharacterKeypad::pinyin() const
-{
-    return m_chnPanel->getPinyinLabel()->text();
-}
-
-void CharacterKeypad::compose(const QString &pinyin)
-{
-    if (pinyin.isEmpty()) {
-        clearComposition();
-        return;
-    }
-    m_chnPanel->getPinyinLabel()->setText(pinyin);
-    m_candidates = PinyinDictionary::candidates(m_dictionary, pinyin);
-    if (m_candidates.isEmpty())
-        m_chnPanel->clearPinYin(m_signalMapper, 0);
-    else
-        m_chnPanel->setNewPinYin(m_candidates, m_signalMapper);
-}
-
-void CharacterKeypad::clearComposition()
-{
-    m_candidates.clear();
-    m_chnPanel->clearPinYin(m_signalMapper, 1);
 }
