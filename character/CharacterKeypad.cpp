@@ -122,6 +122,12 @@ CharacterKeypad::CharacterKeypad(QWidget *parent, Qt::WindowFlags flags)
 CharacterKeypad::~CharacterKeypad()
 {
     PinyinDictionary::close(m_dictionary);
+    // A mapper looks at itself once more after it has sent. It outlives a keypad that is destroyed
+    // by what its key did, such as a field that closes its screen.
+    if (sender() == m_signalMapper) {
+        m_signalMapper->setParent(nullptr);
+        m_signalMapper->deleteLater();
+    }
 }
 
 void CharacterKeypad::setObject(QObject *object)

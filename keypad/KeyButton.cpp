@@ -30,6 +30,13 @@ QSize KeyButton::minimumSizeHint() const
     return QSize(0, 0);
 }
 
+// Not as a tool button, which looks at itself once more after its click: what a key does may
+// destroy the keypad, such as a field that closes its screen.
+void KeyButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    QAbstractButton::mouseReleaseEvent(event);
+}
+
 void KeyButton::paintEvent(QPaintEvent *event)
 {
     const QRect rect = labelRect();

@@ -17,6 +17,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

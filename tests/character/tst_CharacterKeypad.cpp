@@ -4,6 +4,7 @@
 #include "support/MessageLog.h"
 
 #include <QIntValidator>
+#include <QPointer>
 #include <QSignalMapper>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -12,6 +13,28 @@
 // tst_Pinyin.
 
 namespace {
+
+// A field whose screen goes with its keypad as soon as the field has a value.
+class ClosingField : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+
+public:
+    explicit ClosingField(CharacterKeypad *keypad)
+        : m_keypad(keypad)
+    {
+        keypad->setObject(this);
+    }
+
+    QString text() const { return QString(); }
+    void setText(const QString &) { m_keypad.reset(); }
+
+    CharacterKeypad *keypad() const { return m_keypad.data(); }
+
+private:
+    QScopedPointer<CharacterKeypad> m_keypad;
+};
 
 // Makes a function of QObject's own known to the test.
 class Sender : public QObject
@@ -60,6 +83,7 @@ private Q_SLOTS:
     void deletingItIsSilent_data();
     void deletingItIsSilent();
     void deletingItEndsWhatAnApplicationBegan();
+    void aKeyMayDestroyIt();
     void itCanBeBuiltAgain();
 };
 
@@ -199,6 +223,20 @@ void tst_CharacterKeypad::deletingItEndsWhatAnApplicationBegan()
     QVERIFY(!held.isOpen());
     QCOMPARE(DictionaryFile::bytes(), before);
     QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
+}
+
+// The mapper that sends what the key says looks at itself after it has sent.
+void tst_CharacterKeypad::aKeyMayDestroyIt()
+{
+    PanelView view(1);
+    const ClosingField field(new CharacterKeypad(&view, Qt::WindowFlags()));
+    const QPointer<QSignalMapper> mapper(field.keypad()->findChild<QSignalMapper *>());
+    field.keypad()->show();
+    CHECKED(press(*field.keypad(), "Enter"));
+    QVERIFY(!field.keypad());
+    QVERIFY(mapper);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!mapper);
 }
 
 void tst_CharacterKeypad::itCanBeBuiltAgain()
