@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -237,6 +238,7 @@ void DateTimeKeypad::setUpFields()
         QSpinBox *field = new QSpinBox(this);
         field->setObjectName(QLatin1String(fieldCells[i].name) + QLatin1String("Field"));
         field->setAccessibleName(tr(fieldCells[i].label));
+        field->setLocale(QLocale::c());
         field->setButtonSymbols(QAbstractSpinBox::NoButtons);
         field->setRange(fieldCells[i].minimum, fieldCells[i].maximum);
         field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
@@ -322,13 +324,14 @@ QString DateTimeKeypad::composedText() const
 {
     const QDate date(m_fields[Year]->value(), m_fields[Month]->value(), m_fields[Day]->value());
     const QTime time(m_fields[Hour]->value(), m_fields[Minute]->value(), m_fields[Second]->value());
+    const QLocale locale = QLocale::c(); // the digits of the keys, wherever the panel stands
     switch (m_formatLength) {
     case timeLength:
-        return time.toString(QLatin1String(timeFormat));
+        return locale.toString(time, QLatin1String(timeFormat));
     case dateLength:
-        return date.toString(QLatin1String(dateFormat));
+        return locale.toString(date, QLatin1String(dateFormat));
     default:
-        return QDateTime(date, time, Qt::UTC).toString(QLatin1String(dateTimeFormat));
+        return locale.toString(QDateTime(date, time, Qt::UTC), QLatin1String(dateTimeFormat));
     }
 }
 

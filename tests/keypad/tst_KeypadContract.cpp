@@ -2,6 +2,7 @@
 #include "support/AnyKeypad.h"
 
 #include <QIntValidator>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QStyle>
 
@@ -85,6 +86,7 @@ private Q_SLOTS:
     void bindingLeavesTextAndValidatorAlone();
     void bindingNeitherReadsNorWritesTheTarget();
     void setTextReplacesTheTextAndSelectsIt();
+    void setTextClearsTheLineFirst();
     void adjustmentsReachTheEditLine();
     void aPasswordIsNeverShown();
 };
@@ -209,6 +211,17 @@ void tst_KeypadContract::setTextReplacesTheTextAndSelectsIt()
     stage.keypad.setText(QString());
     QCOMPARE(stage.line()->text(), QString());
     QVERIFY(!stage.line()->hasSelectedText());
+}
+
+void tst_KeypadContract::setTextClearsTheLineFirst()
+{
+    AnyStage stage;
+    stage.keypad.setText(u(currentKind().sampleText));
+    QSignalSpy changes(stage.line(), SIGNAL(textChanged(QString)));
+    stage.keypad.setText(u(currentKind().sampleText)); // the same, but a new entry
+    QCOMPARE(int(changes.count()), 2);
+    QCOMPARE(changes.first().first().toString(), QString());
+    QCOMPARE(changes.last().first().toString(), u(currentKind().sampleText));
 }
 
 void tst_KeypadContract::adjustmentsReachTheEditLine()

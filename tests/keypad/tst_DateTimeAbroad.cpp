@@ -2,9 +2,10 @@
 #include "DateTimeStage.h"
 
 #include <QDateTime>
+#include <QLocale>
 
-// Times of day that clocks skip when summer time begins: the panel's time zone must not touch what
-// an operator enters.
+// Where clocks skip an hour when summer time begins, and where numbers have other digits: neither
+// may touch what an operator enters.
 
 namespace {
 
@@ -25,7 +26,7 @@ QStringList skippedTimes(int year)
         const QDateTime before = wallClock(moment).addSecs(3600);
         const int skipped = int(before.secsTo(wallClock(next)));
         if (skipped > 0)
-            texts << before.addSecs(skipped / 2).toString(u("yyyy-MM-dd hh:mm:ss"));
+            texts << QLocale::c().toString(before.addSecs(skipped / 2), u("yyyy-MM-dd hh:mm:ss"));
         moment = next;
     }
     return texts;
@@ -33,7 +34,7 @@ QStringList skippedTimes(int year)
 
 } // namespace
 
-class tst_DateTimeZones : public QObject
+class tst_DateTimeAbroad : public QObject
 {
     Q_OBJECT
 
@@ -42,9 +43,10 @@ private Q_SLOTS:
     void timesSkippedSomewhereSurvive();
     void timesSkippedHereSurvive_data();
     void timesSkippedHereSurvive();
+    void digitsAreThoseOfTheKeys();
 };
 
-void tst_DateTimeZones::timesSkippedSomewhereSurvive_data()
+void tst_DateTimeAbroad::timesSkippedSomewhereSurvive_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("Berlin") << u("2024-03-31 02:30:00");
@@ -57,7 +59,7 @@ void tst_DateTimeZones::timesSkippedSomewhereSurvive_data()
     QTest::newRow("Apia, a day") << u("2011-12-30 12:00:00");
 }
 
-void tst_DateTimeZones::timesSkippedSomewhereSurvive()
+void tst_DateTimeAbroad::timesSkippedSomewhereSurvive()
 {
     QFETCH(QString, text);
     DateTimeStage stage;
@@ -72,7 +74,7 @@ void tst_DateTimeZones::timesSkippedSomewhereSurvive()
     QCOMPARE(stage.values(), filled);
 }
 
-void tst_DateTimeZones::timesSkippedHereSurvive_data()
+void tst_DateTimeAbroad::timesSkippedHereSurvive_data()
 {
     QTest::addColumn<int>("year");
     const int years[] = { 1990, 2000, 2010, 2024, 2036 };
@@ -80,7 +82,7 @@ void tst_DateTimeZones::timesSkippedHereSurvive_data()
         QTest::newRow(qPrintable(QString::number(year))) << year;
 }
 
-void tst_DateTimeZones::timesSkippedHereSurvive()
+void tst_DateTimeAbroad::timesSkippedHereSurvive()
 {
     QFETCH(int, year);
     const QStringList texts = skippedTimes(year);
@@ -92,13 +94,25 @@ void tst_DateTimeZones::timesSkippedHereSurvive()
     QCOMPARE(stage.target.text(), texts.first());
 }
 
+void tst_DateTimeAbroad::digitsAreThoseOfTheKeys()
+{
+    QCOMPARE(QLocale::system().toString(2024).at(0), QChar(0x0662)); // here they are others
+    DateTimeStage stage;
+    CHECKED(stage.work(Month, u("+")));
+    QCOMPARE(stage.field(Month)->text(), u("6"));
+    QVERIFY(stage.field(Month)->palette().color(QPalette::Active, QPalette::Base) == Qt::white);
+    CHECKED(tap(&stage.keypad, u("Ok")));
+    QCOMPARE(stage.target.text(), u("2024-06-17 08:09:10"));
+}
+
 int main(int argc, char *argv[])
 {
     // Central Europe's, told by its rule: a machine may have no table of zones.
     qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
+    qputenv("LC_ALL", "ar_EG.UTF-8");
     QApplication application(argc, argv);
-    tst_DateTimeZones test;
+    tst_DateTimeAbroad test;
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "tst_DateTimeZones.moc"
+#include "tst_DateTimeAbroad.moc"
