@@ -18,6 +18,8 @@ private Q_SLOTS:
     void elementsAreFoundByIndex_data();
     void elementsAreFoundByIndex();
     void markupIsShownAsItStands();
+    void noTextAsksForMoreThanALine();
+    void partsKeepALittleRoom();
     void coloursFollowThePanelTypeOfItsConstruction_data();
     void coloursFollowThePanelTypeOfItsConstruction();
 };
@@ -107,6 +109,32 @@ void tst_ChnPanel::markupIsShownAsItStands()
     panel.setNewPinYin(QStringList(text), &mapper);
     QCOMPARE(panel.getClickLabel(0)->text(), text);
     QCOMPARE(int(panel.getClickLabel(0)->textFormat()), int(Qt::PlainText));
+}
+
+void tst_ChnPanel::noTextAsksForMoreThanALine()
+{
+    QSignalMapper mapper;
+    ChnPanel panel(nullptr);
+    panel.setNewPinYin(QStringList() << u("a") << u("a\nb\nc"), &mapper);
+    const int oneLine = panel.getClickLabel(0)->sizeHint().height();
+    QVERIFY(oneLine >= panel.getClickLabel(0)->fontMetrics().height());
+    QCOMPARE(panel.getClickLabel(1)->sizeHint().height(), oneLine);
+}
+
+// However long the candidates are, in heights of a line.
+void tst_ChnPanel::partsKeepALittleRoom()
+{
+    QSignalMapper mapper;
+    ChnPanel panel(nullptr);
+    const QString text(300, QLatin1Char('W'));
+    panel.setNewPinYin(QStringList() << text << text << text << text << text, &mapper);
+    panel.getPinyinLabel()->setText(text);
+    const int lineHeight = panel.fontMetrics().height();
+    QCOMPARE(panel.getPinyinLabel()->minimumSizeHint().width(), 2 * lineHeight);
+    for (short i = 0; i < 5; ++i)
+        QCOMPARE(panel.getClickLabel(i)->minimumSizeHint().width(), lineHeight);
+    QVERIFY(panel.getToolButton(0)->minimumSizeHint().width() >= lineHeight);
+    QVERIFY(panel.getToolButton(1)->minimumSizeHint().width() >= lineHeight);
 }
 
 void tst_ChnPanel::coloursFollowThePanelTypeOfItsConstruction_data()

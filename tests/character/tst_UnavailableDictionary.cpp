@@ -2,6 +2,7 @@
 #include "DictionarySession.h"
 #include "support/DictionaryFile.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSqlDatabase>
@@ -106,6 +107,35 @@ private:
     int m_watch;
 };
 
+// What a writer leaves behind that is killed in the middle of its work: a file that has been
+// changed in part, and the journal that tells what was there.
+struct Ruins
+{
+    QByteArray file, journal;
+};
+
+Ruins leaveInTheMiddle()
+{
+    const QString name = u("crashed writer");
+    Ruins ruins;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u("QSQLITE"), name);
+        database.setDatabaseName(DictionaryFile::path());
+        database.open();
+        QSqlQuery query(database);
+        query.exec(u("PRAGMA cache_size = 1")); // pages; what is more is written at once
+        query.exec(u("BEGIN"));
+        query.exec(u("UPDATE pinyin SET word = hex(zeroblob(5000))"));
+        QFile journal(DictionaryFile::path() + u("-journal"));
+        if (journal.open(QIODevice::ReadOnly))
+            ruins.journal = journal.readAll();
+        ruins.file = DictionaryFile::bytes();
+        query.exec(u("ROLLBACK"));
+    }
+    QSqlDatabase::removeDatabase(name);
+    return ruins;
+}
+
 // How long the keypad's connection waits for a writer, in milliseconds: SQLite's own way is to hold
 // up a key for seconds.
 int longestWait()
@@ -124,6 +154,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void noReadPermission();
+    void noWritePermission();
+    void aFileWhoseWriterCrashedIsMended();
     void aPipeIsNotOpened();
     void lockedWhenTheKeypadIsBuilt();
     void lockedWhileTyping();
@@ -159,6 +191,49 @@ void tst_UnavailableDictionary::noReadPermission()
     session.workInChinese();
     session.workInEnglish();
     QCOMPARE(session.complaint(), QString());
+}
+
+void tst_UnavailableDictionary::noWritePermission()
+{
+    const QByteArray before = DictionaryFile::bytes();
+    QVERIFY(QFile::setPermissions(DictionaryFile::path(),
+                                  QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    const OrdinaryUser user;
+    if (DictionaryFile::bytes().isEmpty())
+        HMI_SKIP("no ordinary user may look into the directory of the test");
+    QVERIFY(!QFile(DictionaryFile::path()).open(QIODevice::ReadWrite));
+    DictionarySession session;
+    session.type("CN n");
+    QCOMPARE(candidateLine(session.keypad()), u("嗯 那"));
+    session.type("EN");
+    session.workInChinese();
+    session.workInEnglish();
+    QCOMPARE(session.complaint(), QString());
+    QCOMPARE(DictionaryFile::bytes(), before);
+    QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
+}
+
+void tst_UnavailableDictionary::aFileWhoseWriterCrashedIsMended()
+{
+    const QByteArray before = DictionaryFile::bytes();
+    const Ruins ruins = leaveInTheMiddle();
+    QVERIFY(ruins.file != before && !ruins.journal.isEmpty());
+    QCOMPARE(DictionaryFile::bytes(), before);
+    CHECKED(m_dictionary->setBytes(ruins.file));
+    QFile journal(DictionaryFile::path() + u("-journal"));
+    QVERIFY(journal.open(QIODevice::WriteOnly));
+    QCOMPARE(journal.write(ruins.journal), qint64(ruins.journal.size()));
+    journal.close();
+
+    DictionarySession session;
+    session.type("CN n");
+    QCOMPARE(candidateLine(session.keypad()), u("嗯 那"));
+    session.type("EN");
+    session.workInChinese();
+    session.workInEnglish();
+    QCOMPARE(session.complaint(), QString());
+    QCOMPARE(DictionaryFile::bytes(), before);
+    QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
 }
 
 void tst_UnavailableDictionary::aPipeIsNotOpened()
