@@ -15,7 +15,6 @@
 #include <QGraphicsView>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QSignalMapper>
 #include <QToolButton>
 #include <QVariant>
