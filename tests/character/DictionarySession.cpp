@@ -38,6 +38,8 @@ void DictionarySession::type(const QString &labels)
 
 void DictionarySession::workInChinese()
 {
+    if (languageKey(*m_keypad)->text() == u("EN"))
+        type("EN");
     type("CN n i > > < Space Del Del h a o");
     tapCandidate(*m_keypad, 0);
     type("z h u");
@@ -61,6 +63,13 @@ QString DictionarySession::complaint()
     if (!m_log.messages().isEmpty())
         note(m_log.messages().join(u("\n")));
     return m_complaint;
+}
+
+void DictionarySession::finish()
+{
+    workInChinese();
+    workInEnglish();
+    QCOMPARE(complaint(), QString());
 }
 
 void DictionarySession::note(const QString &complaint)

@@ -23,7 +23,7 @@ public:
     void type(const QString &labels);
     void type(const char *labels) { type(u(labels)); }
 
-    // Composes, pages, chooses, edits and switches in Chinese mode.
+    // Composes, pages, chooses, edits and switches in Chinese mode, which it does not leave.
     void workInChinese();
 
     // Leaves for English, types a word and confirms it.
@@ -31,6 +31,9 @@ public:
 
     // Closes the keypad and tells the first complaint; there was none when it is empty.
     QString complaint();
+
+    // Works in both languages and closes the keypad. Asserts that there was no complaint.
+    void finish();
 
 private:
     void note(const QString &complaint);

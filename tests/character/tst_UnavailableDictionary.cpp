@@ -187,10 +187,7 @@ void tst_UnavailableDictionary::noReadPermission()
     QVERIFY(!session.keypad().findChild<QSqlTableModel *>());
     session.type("CN n i");
     QCOMPARE(candidateLine(session.keypad()), QString());
-    session.type("EN");
-    session.workInChinese();
-    session.workInEnglish();
-    QCOMPARE(session.complaint(), QString());
+    CHECKED(session.finish());
 }
 
 void tst_UnavailableDictionary::noWritePermission()
@@ -205,10 +202,7 @@ void tst_UnavailableDictionary::noWritePermission()
     DictionarySession session;
     session.type("CN n");
     QCOMPARE(candidateLine(session.keypad()), u("嗯 那"));
-    session.type("EN");
-    session.workInChinese();
-    session.workInEnglish();
-    QCOMPARE(session.complaint(), QString());
+    CHECKED(session.finish());
     QCOMPARE(DictionaryFile::bytes(), before);
     QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
 }
@@ -228,10 +222,7 @@ void tst_UnavailableDictionary::aFileWhoseWriterCrashedIsMended()
     DictionarySession session;
     session.type("CN n");
     QCOMPARE(candidateLine(session.keypad()), u("嗯 那"));
-    session.type("EN");
-    session.workInChinese();
-    session.workInEnglish();
-    QCOMPARE(session.complaint(), QString());
+    CHECKED(session.finish());
     QCOMPARE(DictionaryFile::bytes(), before);
     QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
 }
@@ -244,9 +235,7 @@ void tst_UnavailableDictionary::aPipeIsNotOpened()
     QVERIFY(!pipe.wasOpened());
     QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
     DictionarySession session;
-    session.workInChinese();
-    session.workInEnglish();
-    QCOMPARE(session.complaint(), QString());
+    CHECKED(session.finish());
     QVERIFY(!pipe.wasOpened());
     close(open(QFile::encodeName(DictionaryFile::path()).constData(), O_RDONLY));
     QVERIFY2(pipe.wasOpened(), "this would have been noticed");
@@ -261,7 +250,6 @@ void tst_UnavailableDictionary::lockedWhenTheKeypadIsBuilt()
     session.type("CN n i");
     QCOMPARE(candidateLine(session.keypad()), QString());
     QCOMPARE(shownPinyin(session.keypad()), u("ni"));
-    session.type("EN");
     session.workInChinese();
     session.workInEnglish();
     QVERIFY(writer.release());
@@ -284,7 +272,6 @@ void tst_UnavailableDictionary::lockedWhileTyping()
     QCOMPARE(candidateLine(session.keypad()), u("倪 妮 腻 匿 溺"));
     session.type("n");
     QCOMPARE(candidateLine(session.keypad()), QString());
-    session.type("EN");
     session.workInChinese();
     session.type("n i n");
     QVERIFY(writer.release());
@@ -300,11 +287,8 @@ void tst_UnavailableDictionary::removedWhileTyping()
     DictionarySession session;
     session.type("CN n i");
     m_dictionary->remove();
-    session.workInEnglish();
-    session.workInChinese();
-    session.workInEnglish();
+    CHECKED(session.finish());
     QCOMPARE(DictionaryFile::entries(), QStringList());
-    QCOMPARE(session.complaint(), QString());
 }
 
 QTEST_MAIN(tst_UnavailableDictionary)
