@@ -17,7 +17,9 @@
 #include <QSpinBox>
 #include <QValidator>
 
-static bool isAcceptable(const QValidator *validator, QString text)
+namespace {
+
+bool isAcceptable(const QValidator *validator, QString text)
 {
     int cursor = 0;
     return !validator || validator->validate(text, cursor) == QValidator::Acceptable;
@@ -25,7 +27,7 @@ static bool isAcceptable(const QValidator *validator, QString text)
 
 // The validator lives no longer than one entry, and the keypad does not own it.
 template <class AnyKeypad>
-static int exec(AnyKeypad *keypad, const QString &text, const QValidator *validator)
+int exec(AnyKeypad *keypad, const QString &text, const QValidator *validator)
 {
     keypad->setValidator(validator);
     keypad->setText(text);
@@ -34,12 +36,14 @@ static int exec(AnyKeypad *keypad, const QString &text, const QValidator *valida
     return result;
 }
 
+} // namespace
+
 FieldEditor::FieldEditor(MachineScreen *screen)
     : QObject(screen)
     , m_screen(screen)
     , m_editing(false)
 {
-    connect(screen, &MachineScreen::fieldTapped, this, &FieldEditor::edit);
+    connect(screen, SIGNAL(fieldTapped(TouchField *)), SLOT(edit(TouchField *)));
 }
 
 void FieldEditor::edit(TouchField *field)
@@ -56,10 +60,12 @@ void FieldEditor::edit(TouchField *field)
     // A validator refuses what can never become right; too small a number can still be confirmed.
     if (!isAcceptable(validator.data(), field->text())) {
         field->setText(before);
-        m_screen->showMessage(QString("不接受 Not accepted. %1").arg(limitText(field->rule())));
+        m_screen->showMessage(
+            QString::fromUtf8("不接受 Not accepted. %1").arg(limitText(field->rule())));
         return;
     }
-    m_screen->showMessage(QString("%1 = %2").arg(field->rule().label, field->displayText()));
+    m_screen->showMessage(QString::fromLatin1("%1 = %2").arg(QString::fromUtf8(field->rule().label),
+                                                             field->displayText()));
 }
 
 int FieldEditor::runKeypad(TouchField *field, const QValidator *validator)
@@ -89,7 +95,7 @@ int FieldEditor::runKeys(KeypadWithKeys *keypad, QObject *target, const TouchFie
                          const QValidator *validator)
 {
     const FieldRule &rule = field->rule();
-    connect(keypad, &KeypadWithKeys::signal_kTypeKeyPressed, this, &FieldEditor::showHardKey,
+    connect(keypad, SIGNAL(signal_kTypeKeyPressed(int)), SLOT(showHardKey(int)),
             Qt::UniqueConnection);
     keypad->setObject(target);
     keypad->setDecimalPointEnabled(decimals(rule) > 0);
@@ -103,7 +109,7 @@ int FieldEditor::runKeys(KeypadWithKeys *keypad, QObject *target, const TouchFie
 int FieldEditor::runCharacters(TouchField *field, const QValidator *validator)
 {
     CharacterKeypad *keypad = CharacterKeypad::instance();
-    connect(keypad, &CharacterKeypad::signal_kTypeKeyPressed, this, &FieldEditor::showHardKey,
+    connect(keypad, SIGNAL(signal_kTypeKeyPressed(int)), SLOT(showHardKey(int)),
             Qt::UniqueConnection);
     keypad->setObject(field);
     keypad->setMaxLength(field->rule().maxLength);
@@ -116,7 +122,8 @@ int FieldEditor::runDateTime(TouchField *field, const QValidator *validator)
     DateTimeKeypad *keypad = DateTimeKeypad::instance();
     keypad->setObject(field);
     // Date and time lock each other's half; a date and time needs both, and unlocks neither.
-    for (QSpinBox *part : keypad->findChildren<QSpinBox *>())
+    const QList<QSpinBox *> parts = keypad->findChildren<QSpinBox *>();
+    for (QSpinBox *part : parts)
         part->setEnabled(true);
     keypad->setMaxLength(field->rule().maxLength);
     return exec(keypad, field->text(), validator);
@@ -124,5 +131,5 @@ int FieldEditor::runDateTime(TouchField *field, const QValidator *validator)
 
 void FieldEditor::showHardKey(int key)
 {
-    m_screen->showMessage(QString("按键 Hard key %1").arg(QKeySequence(key).toString()));
+    m_screen->showMessage(QString::fromUtf8("按键 Hard key %1").arg(QKeySequence(key).toString()));
 }

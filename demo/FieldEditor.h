@@ -8,7 +8,7 @@ class MachineScreen;
 class QValidator;
 class TouchField;
 
-/*! Opens the keypad that fits a field, set up as the field's rule says. */
+// Opens the keypad that fits a field, set up as the field's rule says.
 class FieldEditor : public QObject
 {
     Q_OBJECT
@@ -16,18 +16,20 @@ class FieldEditor : public QObject
 public:
     explicit FieldEditor(MachineScreen *screen);
 
-    /*! Whether a field is being edited: from its tap until its keypad's exec() has returned. */
+    // Whether a field is being edited: from its tap until its keypad's exec() has returned.
     bool isEditing() const { return m_editing; }
 
-private:
+private Q_SLOTS:
     void edit(TouchField *field);
+    void showHardKey(int key);
+
+private:
     int runKeypad(TouchField *field, const QValidator *validator);
     template <class KeypadWithKeys>
     int runKeys(KeypadWithKeys *keypad, QObject *target, const TouchField *field,
                 const QValidator *validator);
     int runCharacters(TouchField *field, const QValidator *validator);
     int runDateTime(TouchField *field, const QValidator *validator);
-    void showHardKey(int key);
 
     MachineScreen *m_screen;
     bool m_editing;

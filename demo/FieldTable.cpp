@@ -4,11 +4,13 @@
 #include <QDoubleValidator>
 #include <QRegularExpressionValidator>
 
-// clang-format off
-static const char anyBlock[] = "[A-Z0-9.,$ -]*";
-static const char axisWords[] = "-?([ABCFGUVWXYZ][0-9]{1,4}(\\.[0-9]{0,3})? ?){1,4}";
+namespace {
 
-static const FieldRule fieldRules[] = {
+// clang-format off
+const char anyBlock[] = "[A-Z0-9.,$ -]*";
+const char axisWords[] = "-?([ABCFGUVWXYZ][0-9]{1,4}(\\.[0-9]{0,3})? ?){1,4}";
+
+const FieldRule fieldRules[] = {
     // name          label                  unit      value       keypad          base
     //     minimum      maximum     pattern    maxLength  masked
     { "X",         "X",                   "mm",     "125.340",  Keypad::Number,   10,
@@ -50,56 +52,64 @@ static const FieldRule fieldRules[] = {
 };
 // clang-format on
 
-const FieldRule &fieldRule(const QString &name)
+double number(const char *text)
+{
+    return QString::fromLatin1(text).toDouble();
+}
+
+QValidator *createPattern(const QString &pattern, QObject *parent)
+{
+    return new QRegularExpressionValidator(QRegularExpression(pattern), parent);
+}
+
+QValidator *createRange(const FieldRule &rule, QObject *parent)
+{
+    const double minimum = number(rule.minimum);
+    const double maximum = number(rule.maximum);
+    if (decimals(rule) == 0)
+        return new QIntValidator(int(minimum), int(maximum), parent);
+    QDoubleValidator *range = new QDoubleValidator(minimum, maximum, decimals(rule), parent);
+    range->setNotation(QDoubleValidator::StandardNotation);
+    range->setLocale(QLocale::c()); // the keypad's point is a point in every language
+    return range;
+}
+
+} // namespace
+
+const FieldRule &fieldRule(const char *name)
 {
     for (const FieldRule &rule : fieldRules) {
-        if (name == rule.name)
+        if (qstrcmp(name, rule.name) == 0)
             return rule;
     }
-    qFatal("There is no rule \"%s\"", qPrintable(name));
+    qFatal("There is no rule \"%s\"", name);
     return fieldRules[0];
 }
 
 int decimals(const FieldRule &rule)
 {
-    return QString(rule.maximum).section('.', 1).length();
+    return QString::fromLatin1(rule.maximum).section(QLatin1Char('.'), 1).length();
 }
 
 QString limitText(const FieldRule &rule)
 {
     if (!rule.maximum || rule.masked)
         return QString();
-    return QString("%1 … %2 %3").arg(rule.minimum, rule.maximum, rule.unit);
-}
-
-static QValidator *createPattern(const QString &pattern, QObject *parent)
-{
-    return new QRegularExpressionValidator(QRegularExpression(pattern), parent);
-}
-
-static QValidator *createRange(const FieldRule &rule, QObject *parent)
-{
-    if (decimals(rule) == 0)
-        return new QIntValidator(QString(rule.minimum).toInt(), QString(rule.maximum).toInt(),
-                                 parent);
-    QDoubleValidator *range = new QDoubleValidator(
-        QString(rule.minimum).toDouble(), QString(rule.maximum).toDouble(), decimals(rule), parent);
-    range->setNotation(QDoubleValidator::StandardNotation);
-    range->setLocale(QLocale::c()); // the keypad's point is a point in every language
-    return range;
+    return QString::fromUtf8("%1 … %2 %3")
+        .arg(QLatin1String(rule.minimum), QLatin1String(rule.maximum), QLatin1String(rule.unit));
 }
 
 QValidator *createValidator(const FieldRule &rule, QObject *parent)
 {
     if (rule.pattern)
-        return createPattern(rule.pattern, parent);
+        return createPattern(QLatin1String(rule.pattern), parent);
     if (!rule.maximum)
         return nullptr;
     switch (rule.base) {
     case 2:
-        return createPattern(QString("[01]{1,%1}").arg(rule.maxLength), parent);
+        return createPattern(QString::fromLatin1("[01]{1,%1}").arg(rule.maxLength), parent);
     case 16:
-        return createPattern(QString("[0-9A-F]{1,%1}").arg(rule.maxLength), parent);
+        return createPattern(QString::fromLatin1("[0-9A-F]{1,%1}").arg(rule.maxLength), parent);
     default:
         return createRange(rule, parent);
     }

@@ -9,7 +9,7 @@ class QValidator;
 
 enum class Keypad { Number, GCode, Axis, Text, DateTime };
 
-/*! How a field looks and how it is edited. Texts are UTF-8; null stands for "none". */
+// How a field looks and how it is edited. Texts are UTF-8; null stands for "none".
 struct FieldRule
 {
     const char *name;
@@ -24,16 +24,16 @@ struct FieldRule
     bool masked;
 };
 
-/*! The rule of this name, which must exist. */
-const FieldRule &fieldRule(const QString &name);
+// The rule of this name, which must exist.
+const FieldRule &fieldRule(const char *name);
 
-/*! The digits that a number may have after its point. */
+// The digits that a number may have after its point.
 int decimals(const FieldRule &rule);
 
-/*! What the operator is told of the permitted values; may be empty. */
+// What the operator is told of the permitted values; may be empty.
 QString limitText(const FieldRule &rule);
 
-/*! Makes the rule's validator, or returns null when every text will do. */
+// Makes the rule's validator, or returns null when every text will do.
 QValidator *createValidator(const FieldRule &rule, QObject *parent);
 
 #endif

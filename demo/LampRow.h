@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-/*! A row of lamps, one for each binary digit. */
+// A row of lamps, one for each binary digit.
 class LampRow : public QWidget
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
     explicit LampRow(QWidget *parent);
 
 public Q_SLOTS:
-    /*! A lamp is lit where \a digits has a 1; the lowest digit is the rightmost lamp. */
+    // A lamp is lit where digits has a 1; the lowest digit is the rightmost lamp.
     void setDigits(const QString &digits);
 
 protected:

@@ -2,6 +2,7 @@
 #include "MachineScreen.h"
 
 #include "FieldTable.h"
+#include "GaugeBar.h"
 #include "LampRow.h"
 #include "Theme.h"
 #include "TouchField.h"
@@ -11,21 +12,22 @@
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
 
-static const char programBelow[] = "N40 G02 X52. Y-0.5 I0 J11.5\n"
-                                   "N50 G01 Y18.25\n"
-                                   "N60 G02 X40.5 Y29.75 I-11.5 J0\n"
-                                   "N70 G01 X-40.5\n"
-                                   "N80 G40 Y45.\n"
-                                   "N90 G00 Z50. M09\n"
-                                   "N100 G28 G91 Z0 M05\n"
-                                   "N110 G90 X0 Y200.\n"
-                                   "N120 M30";
+namespace {
 
-static const struct
+const char programBelow[] = "N40 G02 X52. Y-0.5 I0 J11.5\n"
+                            "N50 G01 Y18.25\n"
+                            "N60 G02 X40.5 Y29.75 I-11.5 J0\n"
+                            "N70 G01 X-40.5\n"
+                            "N80 G40 Y45.\n"
+                            "N90 G00 Z50. M09\n"
+                            "N100 G28 G91 Z0 M05\n"
+                            "N110 G90 X0 Y200.\n"
+                            "N120 M30";
+
+const struct
 {
     const char *tool, *length, *radius, *wear;
 } toolOffsets[] = { { "T01", "120.250", "5.000", "0.012" },
@@ -33,36 +35,38 @@ static const struct
                     { "T03", "-14.035", "8.000", "0.105" },
                     { "T04", "143.918", "0.400", "-0.020" } };
 
-static int unitFor(const QSize &size, bool upright)
+int unitFor(const QSize &size, bool upright)
 {
     return upright ? qMin(size.height() / 26, size.width() / 17)
                    : qMin(size.height() / 16, size.width() / 26);
 }
 
-static QFont fontOf(const QFont &font, int pixels)
+QFont fontOf(const QFont &font, int pixels)
 {
     QFont sized(font);
     sized.setPixelSize(pixels);
     return sized;
 }
 
-static QFont boldFont(QFont font)
+QFont boldFont(QFont font)
 {
     font.setBold(true);
     return font;
 }
 
-static QFont programFont(int pixels)
+QFont programFont(int pixels)
 {
-    QFont font("monospace");
+    QFont font(QLatin1String("monospace"));
     font.setStyleHint(QFont::Monospace);
     return fontOf(font, pixels);
 }
 
-static QFont digitFont(int pixels)
+QFont digitFont(int pixels)
 {
     return boldFont(programFont(pixels));
 }
+
+} // namespace
 
 MachineScreen::MachineScreen(QWidget *parent)
     : QWidget(parent)
@@ -79,7 +83,8 @@ MachineScreen::MachineScreen(QWidget *parent)
     layout->addWidget(createTopBar());
     layout->addWidget(m_pages = new QStackedWidget(this), 1);
     layout->addWidget(createSoftKeys());
-    showPage(0);
+    m_softKeys->button(0)->setChecked(true);
+    showPage();
 }
 
 TouchField *MachineScreen::field(const QString &name) const
@@ -105,17 +110,17 @@ void MachineScreen::showMessage(const QString &text)
 QWidget *MachineScreen::createTopBar()
 {
     QWidget *bar = new QWidget(this);
-    bar->setObjectName("bar");
+    bar->setObjectName(QLatin1String("bar"));
     bar->setFixedHeight(m_unit * 14 / 10);
-    m_title = createLabel(QString(), bar);
-    m_title->setObjectName("pageTitle");
+    m_title = createLabel("", bar);
+    m_title->setObjectName(QLatin1String("pageTitle"));
     m_title->setFont(boldFont(m_title->font()));
-    m_message = createLabel(QString(), bar);
-    m_message->setObjectName("message");
+    m_message = createLabel("", bar);
+    m_message->setObjectName(QLatin1String("message"));
     m_message->setFont(fontOf(font(), m_unit * 6 / 10));
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QLabel *mode = createLabel("自动 AUTO", bar);
-    mode->setObjectName("mode");
+    mode->setObjectName(QLatin1String("mode"));
     mode->setFont(boldFont(mode->font()));
 
     QHBoxLayout *layout = new QHBoxLayout(bar);
@@ -139,30 +144,32 @@ QWidget *MachineScreen::createSoftKeys()
                   { "SYSTEM", "系统", &MachineScreen::createSystemPage } };
 
     QWidget *bar = new QWidget(this);
-    bar->setObjectName("bar");
+    bar->setObjectName(QLatin1String("bar"));
     QHBoxLayout *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(m_unit / 4, m_unit / 6, m_unit / 4, m_unit / 6);
     layout->setSpacing(m_unit / 4);
     m_softKeys = new QButtonGroup(this);
     for (const auto &page : pages) {
-        QPushButton *key = new QPushButton(QString("%1\n%2").arg(page.label, page.name), bar);
-        key->setObjectName(page.name);
+        const QString name = QLatin1String(page.name);
+        QPushButton *key = new QPushButton(
+            QString::fromLatin1("%1\n%2").arg(QString::fromUtf8(page.label), name), bar);
+        key->setObjectName(name);
         key->setCheckable(true);
         key->setFont(fontOf(font(), m_unit * 13 / 20));
         key->setFixedHeight(m_unit * 18 / 10);
         key->setMinimumWidth(1);
         layout->addWidget(key, 1);
         m_softKeys->addButton(key, m_pages->addWidget((this->*page.create)()));
-        connect(key, &QPushButton::clicked, this, [this] { showPage(m_softKeys->checkedId()); });
+        connect(key, SIGNAL(clicked()), SLOT(showPage()));
     }
     return bar;
 }
 
-void MachineScreen::showPage(int index)
+void MachineScreen::showPage()
 {
-    m_softKeys->button(index)->setChecked(true);
-    m_pages->setCurrentIndex(index);
-    m_title->setText(m_softKeys->button(index)->text().replace('\n', ' '));
+    m_pages->setCurrentIndex(m_softKeys->checkedId());
+    const QString label = m_softKeys->checkedButton()->text();
+    m_title->setText(QString(label).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     showMessage(QString());
 }
 
@@ -203,7 +210,7 @@ QWidget *MachineScreen::createProgramPage()
 
     // The blocks that follow lie on the lower part of the field, which takes their taps.
     QLabel *listing = createLabel(programBelow, block);
-    listing->setObjectName("listing");
+    listing->setObjectName(QLatin1String("listing"));
     listing->setFont(programFont(m_unit * 8 / 10));
     listing->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     listing->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -235,8 +242,9 @@ QWidget *MachineScreen::createOffsetPage()
         int column = 1;
         for (const char *value : { offset.length, offset.radius, offset.wear }) {
             TouchField *field = createField("offset", m_upright ? m_unit * 7 / 10 : m_unit, card);
-            field->setObjectName(QString("%1.%2").arg(offset.tool).arg(column));
-            field->setText(value);
+            field->setObjectName(
+                QString::fromLatin1("%1.%2").arg(QLatin1String(offset.tool)).arg(column));
+            field->setText(QLatin1String(value));
             grid->addWidget(field, row, column++);
         }
         ++row;
@@ -257,8 +265,9 @@ QWidget *MachineScreen::createParameterPage()
     layout->addWidget(createRow("parameter"));
     layout->addWidget(createRow("mask", lamps));
     layout->addWidget(createRow("password"));
-    connect(field("mask"), &TouchField::textChanged, lamps, &LampRow::setDigits);
-    lamps->setDigits(field("mask")->text());
+    const TouchField *mask = field(QLatin1String("mask"));
+    connect(mask, SIGNAL(textChanged(QString)), lamps, SLOT(setDigits(QString)));
+    lamps->setDigits(mask->text());
     return createPage(layout);
 }
 
@@ -275,17 +284,17 @@ QWidget *MachineScreen::createSystemPage()
 QWidget *MachineScreen::createCard()
 {
     QWidget *card = new QFrame(this);
-    card->setObjectName("card");
+    card->setObjectName(QLatin1String("card"));
     return card;
 }
 
-QWidget *MachineScreen::createAxis(const QString &name)
+QWidget *MachineScreen::createAxis(const char *name)
 {
     QWidget *card = createCard();
     QHBoxLayout *layout = new QHBoxLayout(card);
     layout->setContentsMargins(m_unit / 2, m_unit / 4, m_unit / 2, m_unit / 4);
     QLabel *letter = createLabel(name, card);
-    letter->setObjectName("axisName");
+    letter->setObjectName(QLatin1String("axisName"));
     letter->setFont(digitFont(m_unit * 2));
     layout->addWidget(letter);
     layout->addWidget(createField(name, m_unit * 17 / 10, card), 1);
@@ -293,7 +302,7 @@ QWidget *MachineScreen::createAxis(const QString &name)
     return card;
 }
 
-QWidget *MachineScreen::createGauge(const QString &name)
+QWidget *MachineScreen::createGauge(const char *name)
 {
     const FieldRule &rule = fieldRule(name);
     QWidget *card = createCard();
@@ -308,20 +317,15 @@ QWidget *MachineScreen::createGauge(const QString &name)
     if (!rule.maximum)
         return card;
 
-    QProgressBar *bar = new QProgressBar(card);
-    bar->setTextVisible(false);
+    GaugeBar *bar = new GaugeBar(QLatin1String(rule.maximum), card);
     bar->setFixedHeight(m_unit / 3);
-    bar->setMaximum(int(QString(rule.maximum).toDouble()));
-    const auto follow = [bar](const QString &text) {
-        bar->setValue(int(text.toDouble()));
-    };
-    connect(value, &TouchField::textChanged, bar, follow);
-    follow(value->text());
+    connect(value, SIGNAL(textChanged(QString)), bar, SLOT(showNumber(QString)));
+    bar->showNumber(value->text());
     grid->addWidget(bar, 2, 0, 1, 2);
     return card;
 }
 
-QWidget *MachineScreen::createRow(const QString &name, QWidget *belowLabel)
+QWidget *MachineScreen::createRow(const char *name, QWidget *belowLabel)
 {
     const FieldRule &rule = fieldRule(name);
     QWidget *card = createCard();
@@ -348,17 +352,17 @@ QWidget *MachineScreen::createRow(const QString &name, QWidget *belowLabel)
     return card;
 }
 
-TouchField *MachineScreen::createField(const QString &rule, int pixels, QWidget *parent)
+TouchField *MachineScreen::createField(const char *rule, int pixels, QWidget *parent)
 {
     TouchField *field = new TouchField(fieldRule(rule), parent);
     field->setFont(digitFont(pixels));
-    connect(field, &TouchField::tapped, this, [this, field] { Q_EMIT fieldTapped(field); });
+    connect(field, SIGNAL(tapped(TouchField *)), SIGNAL(fieldTapped(TouchField *)));
     return field;
 }
 
-QLabel *MachineScreen::createLabel(const QString &text, QWidget *parent)
+QLabel *MachineScreen::createLabel(const char *text, QWidget *parent)
 {
-    QLabel *label = new QLabel(text, parent);
+    QLabel *label = new QLabel(QString::fromUtf8(text), parent);
     label->setTextFormat(Qt::PlainText);
     label->setFont(fontOf(font(), m_unit * 7 / 10));
     return label;

@@ -11,12 +11,10 @@ class QLabel;
 class QStackedWidget;
 class TouchField;
 
-/*!
- * The screen of a machine tool: pages of fields, chosen by the soft keys at the bottom, beneath a
- * line with the page's title, messages and the operating mode.
- *
- * It is laid out for HMIDeviceInfo::screenSize() as that is when the screen is built.
- */
+// The screen of a machine tool: pages of fields, chosen by the soft keys at the bottom, beneath a
+// line with the page's title, messages and the operating mode.
+//
+// It is laid out for HMIDeviceInfo::screenSize() as that is when the screen is built.
 class MachineScreen : public QWidget
 {
     Q_OBJECT
@@ -24,10 +22,10 @@ class MachineScreen : public QWidget
 public:
     explicit MachineScreen(QWidget *parent);
 
-    /*! The field of this name, or null. */
+    // The field of this name, or null.
     TouchField *field(const QString &name) const;
 
-    /*! The soft key of the page with this Latin name, or null. */
+    // The soft key of the page with this Latin name, or null.
     QAbstractButton *softKey(const QString &page) const;
 
     QString message() const;
@@ -37,6 +35,9 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void fieldTapped(TouchField *field);
+
+private Q_SLOTS:
+    void showPage();
 
 private:
     QWidget *createTopBar();
@@ -48,13 +49,12 @@ private:
     QWidget *createSystemPage();
 
     QWidget *createCard();
-    QWidget *createAxis(const QString &name);
-    QWidget *createGauge(const QString &name);
-    QWidget *createRow(const QString &name, QWidget *belowLabel = nullptr);
-    TouchField *createField(const QString &rule, int pixels, QWidget *parent);
-    QLabel *createLabel(const QString &text, QWidget *parent);
+    QWidget *createAxis(const char *name);
+    QWidget *createGauge(const char *name);
+    QWidget *createRow(const char *name, QWidget *belowLabel = nullptr);
+    TouchField *createField(const char *rule, int pixels, QWidget *parent);
+    QLabel *createLabel(const char *text, QWidget *parent);
     QWidget *createPage(QBoxLayout *layout);
-    void showPage(int index);
 
     bool m_upright;
     int m_unit; // pixels; the height of a line with its space

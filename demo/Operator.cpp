@@ -12,9 +12,10 @@
 #include <QToolButton>
 #include <QWindow>
 
-// The windows' own events, so that what lies on top takes them, or the modal keypad keeps them off.
+namespace {
 
-static void tapAt(QWidget *widget, const QPoint &place)
+// The windows' own events, so that what lies on top takes them, or the modal keypad keeps them off.
+void tapAt(QWidget *widget, const QPoint &place)
 {
     QWidget *window = widget->window();
     const QPoint onWindow = widget->mapTo(window, place);
@@ -27,35 +28,70 @@ static void tapAt(QWidget *widget, const QPoint &place)
     QCoreApplication::sendEvent(window->windowHandle(), &release);
 }
 
-static int keyCode(const QString &name)
+const struct
 {
-    const struct
-    {
-        const char *name;
-        int key;
-    } named[] = { { "Return", Qt::Key_Return },
+    const char *name;
+    int key;
+} namedKeys[] = { { "Return", Qt::Key_Return },
                   { "Escape", Qt::Key_Escape },
                   { "Backspace", Qt::Key_Backspace },
                   { "F1", Qt::Key_F1 } };
-    for (const auto &entry : named) {
-        if (name == entry.name)
+
+int keyCode(const QString &name)
+{
+    for (const auto &entry : namedKeys) {
+        if (name == QLatin1String(entry.name))
             return entry.key;
     }
     return name.length() == 1 ? name.at(0).toUpper().unicode() : 0;
 }
+
+bool isAt(const QWidget *window, const QPoint &placeOnScreen)
+{
+    return QGuiApplication::topLevelAt(placeOnScreen) == window->windowHandle();
+}
+
+template <class Label>
+Label *findLabel(const QWidget *keypad, const QString &text)
+{
+    const QList<Label *> labels = keypad->findChildren<Label *>();
+    for (Label *label : labels) {
+        if (label->isVisible() && label->text() == text)
+            return label;
+    }
+    return nullptr;
+}
+
+} // namespace
 
 QWidget *Operator::openKeypad()
 {
     return QApplication::activeModalWidget();
 }
 
-bool Operator::isReady(QWidget *window)
+bool Operator::isOnScreen(const QWidget *window)
 {
-    if (!window->isVisible() || !window->windowHandle()->isExposed())
-        return false;
+    return window->isVisible() && window->windowHandle()->isExposed();
+}
+
+bool Operator::isActive(QWidget *window)
+{
     if (!window->isActiveWindow())
         window->activateWindow();
     return window->isActiveWindow();
+}
+
+QPoint Operator::place(const QWidget *keypad, const QGraphicsView *view)
+{
+    const QPoint origin = view->mapToGlobal(QPoint(0, 0));
+    const QPoint centre = view->rect().center();
+    int x = 0;
+    while (x < view->width() && !isAt(keypad, origin + QPoint(x, centre.y())))
+        ++x;
+    int y = 0;
+    while (y < view->height() && !isAt(keypad, origin + QPoint(centre.x(), y)))
+        ++y;
+    return QPoint(x, y);
 }
 
 void Operator::tap(QWidget *widget)
@@ -71,15 +107,9 @@ void Operator::tapEnd(QWidget *widget)
 
 QWidget *Operator::findKey(const QWidget *keypad, const QString &label)
 {
-    for (QToolButton *key : keypad->findChildren<QToolButton *>()) {
-        if (key->isVisible() && key->text() == label)
-            return key;
-    }
-    for (ClickLabel *candidate : keypad->findChildren<ClickLabel *>()) {
-        if (candidate->isVisible() && candidate->text() == label)
-            return candidate;
-    }
-    return nullptr;
+    if (QToolButton *key = findLabel<QToolButton>(keypad, label))
+        return key;
+    return findLabel<ClickLabel>(keypad, label); // a candidate
 }
 
 bool Operator::pressHardKey(QWidget *widget, const QString &name)
@@ -102,8 +132,7 @@ QPixmap Operator::picture(QGraphicsView *view)
     QPixmap picture = view->grab();
     if (QWidget *keypad = openKeypad()) {
         QPainter painter(&picture);
-        painter.drawPixmap(keypad->mapToGlobal(QPoint(0, 0)) - view->mapToGlobal(QPoint(0, 0)),
-                           keypad->grab());
+        painter.drawPixmap(place(keypad, view), keypad->grab());
     }
     return picture;
 }

@@ -4,21 +4,20 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
-/*! What the command line asks for. */
+// What the command line asks for.
 struct Options
 {
-    int type = 8;
+    int type;
     QSize size;            // of the free-size model, in pixels
-    int rotation = 0;      // degrees
+    int rotation;          // degrees
     QString translation;   // path of a compiled translation of the library; may be empty
     QString pictureFolder; // of the scripted session; empty when an operator is to work the demo
 };
 
-/*!
- * Reads the application's arguments. Ends the program after --help, and with exit status 2 and one
- * line on stderr when an argument is wrong.
- */
-Options readOptions();
+// Ends the program after --help, and with exit status 2 and one line on stderr when an argument is
+// wrong.
+Options readOptions(const QStringList &arguments);
 
 #endif

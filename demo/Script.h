@@ -20,7 +20,7 @@ enum class Action {
     SeeMessage // the screen's message contains subject
 };
 
-/*! One thing that the operator does or looks at. Texts are UTF-8. */
+// One thing that the operator does or looks at. Texts are UTF-8.
 struct Step
 {
     Action action;
@@ -29,7 +29,7 @@ struct Step
     const char *picture; // what has happened, for the picture's name; null leaves no picture
 };
 
-/*! The operator's steps for the panel model that is set; Chinese only \a withDictionary. */
+// The operator's steps for the panel model that is set; Chinese only withDictionary.
 QVector<Step> sessionSteps(bool withDictionary);
 
 #endif

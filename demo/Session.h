@@ -12,13 +12,11 @@ class FieldEditor;
 class MachineScreen;
 class QGraphicsView;
 
-/*!
- * Performs the scripted operator session, one step at a time from the event loop, which may be a
- * keypad's own, and saves a picture of what each step leads to.
- *
- * Ends the application: with 0 and one line about the pictures, or with 1 and one line about the
- * first thing that is not as it should be.
- */
+// Performs the scripted operator session, one step at a time from the event loop, which may be a
+// keypad's own, and saves a picture of what each step leads to.
+//
+// Ends the application: with 0 and one line about the pictures, or with 1 and one line about the
+// first thing that is not as it should be.
 class Session : public QObject
 {
     Q_OBJECT
@@ -26,35 +24,34 @@ class Session : public QObject
 public:
     Session(QGraphicsView *view, MachineScreen *screen, FieldEditor *editor);
 
-    /*! Starts with the next turn of the event loop. \a folder must exist. */
+    // Starts with the next turn of the event loop. folder must exist; the pictures that an
+    // earlier session left there go.
     void start(const QString &folder);
 
-private:
+private Q_SLOTS:
     void proceed();
-    bool isSettled() const;
-    void wait();
+
+private:
+    QWidget *windowToWork() const;
+    void takeStep(const Step &step);
+    void wait(const QString &reason);
     void save(const char *picture);
     void finish();
     void fail(const QString &complaint);
 
     void perform(const Step &step);
     void tapPart(int index);
-    void tapKeys(const QString &labels);
     void tapKey(const QString &label);
-    void pressKeys(const QString &names);
-    void seeEntry(const QString &text);
-    void seeMask(const QString &text);
-    void seeKeys(const QString &labels, bool expected);
-    void seeDimmed(const QString &labels);
-    void seeCover(const QString &field);
-    void seeField(const QString &field, const QString &text);
+    void pressKey(const QString &name);
 
     QGraphicsView *m_view;
     MachineScreen *m_screen;
     FieldEditor *m_editor;
     QDir m_folder;
     QVector<Step> m_steps;
-    int m_next;
+    int m_next;            // index
+    int m_step;            // number of the one that was taken last, from 1
+    const char *m_picture; // of the step that was done, until it is saved; may be null
     int m_pictures;
     int m_waits;
     bool m_failed;

@@ -40,19 +40,24 @@ const Theme &theme()
     return HMIDeviceInfo::deviceType() == 13 ? darkBlue : graphite;
 }
 
+QColor colour(const char *name)
+{
+    return QColor(QLatin1String(name));
+}
+
 QPalette palette(const Theme &theme)
 {
-    QPalette palette(QColor(theme.button), QColor(theme.window));
-    palette.setColor(QPalette::WindowText, QColor(theme.windowText));
-    palette.setColor(QPalette::ButtonText, QColor(theme.buttonText));
-    palette.setColor(QPalette::Base, QColor(theme.base));
-    palette.setColor(QPalette::Text, QColor(theme.text));
-    palette.setColor(QPalette::Highlight, QColor(theme.highlight));
+    QPalette palette(colour(theme.button), colour(theme.window));
+    palette.setColor(QPalette::WindowText, colour(theme.windowText));
+    palette.setColor(QPalette::ButtonText, colour(theme.buttonText));
+    palette.setColor(QPalette::Base, colour(theme.base));
+    palette.setColor(QPalette::Text, colour(theme.text));
+    palette.setColor(QPalette::Highlight, colour(theme.highlight));
     palette.setColor(QPalette::HighlightedText, QColor(Qt::white));
-    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(theme.dimmedText));
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, colour(theme.dimmedText));
     // What the date-time keypad shows without letting it be edited: its display, the locked half.
-    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(theme.lockedBase));
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(theme.lockedText));
+    palette.setColor(QPalette::Disabled, QPalette::Base, colour(theme.lockedBase));
+    palette.setColor(QPalette::Disabled, QPalette::Text, colour(theme.lockedText));
     return palette;
 }
 
@@ -80,7 +85,7 @@ QProgressBar::chunk { background: $accent; }
 
 void applyTheme(QApplication *application)
 {
-    application->setStyle("Fusion");
+    application->setStyle(QLatin1String("Fusion"));
     application->setPalette(palette(theme()));
 }
 
@@ -94,8 +99,8 @@ QString screenStyleSheet()
                     { "$label", theme().label },    { "$field", theme().field },
                     { "$value", theme().value },    { "$accent", theme().accent },
                     { "$softKey", theme().softKey } };
-    QString sheet(styleSheet);
+    QString sheet = QLatin1String(styleSheet);
     for (const auto &entry : colours)
-        sheet.replace(entry.name, entry.colour);
+        sheet.replace(QLatin1String(entry.name), QLatin1String(entry.colour));
     return sheet;
 }

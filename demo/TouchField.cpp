@@ -7,10 +7,10 @@
 #include <QMouseEvent>
 
 TouchField::TouchField(const FieldRule &rule, QWidget *parent)
-    : QLineEdit(rule.value, parent)
+    : QLineEdit(QLatin1String(rule.value), parent)
     , m_rule(rule)
 {
-    setObjectName(rule.name);
+    setObjectName(QLatin1String(rule.name));
     setReadOnly(true);
     setContextMenuPolicy(Qt::NoContextMenu);
     setFocusPolicy(Qt::StrongFocus);
@@ -18,7 +18,7 @@ TouchField::TouchField(const FieldRule &rule, QWidget *parent)
     setAlignment(rule.unit ? Qt::AlignRight : Qt::AlignLeft);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumWidth(1);
-    connect(this, &QLineEdit::textChanged, this, &TouchField::showBeginning);
+    connect(this, SIGNAL(textChanged(QString)), SLOT(showBeginning()));
     showBeginning();
 }
 
@@ -35,7 +35,7 @@ void TouchField::mouseMoveEvent(QMouseEvent *)
 void TouchField::mouseReleaseEvent(QMouseEvent *event)
 {
     if (rect().contains(event->pos()))
-        Q_EMIT tapped();
+        Q_EMIT tapped(this);
 }
 
 void TouchField::mouseDoubleClickEvent(QMouseEvent *)
@@ -45,7 +45,7 @@ void TouchField::mouseDoubleClickEvent(QMouseEvent *)
 void TouchField::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        Q_EMIT tapped();
+        Q_EMIT tapped(this);
     else
         QWidget::keyPressEvent(event);
 }

@@ -6,10 +6,8 @@
 
 struct FieldRule;
 
-/*!
- * A value on the machine screen that cannot be typed into but asks to be edited when it is tapped,
- * or when Return is pressed on it. Keypads write into its "text" property.
- */
+// A value on the machine screen that cannot be typed into but asks to be edited when it is tapped,
+// or when Return is pressed on it. Keypads write into its "text" property.
 class TouchField : public QLineEdit
 {
     Q_OBJECT
@@ -20,7 +18,7 @@ public:
     const FieldRule &rule() const { return m_rule; }
 
 Q_SIGNALS:
-    void tapped();
+    void tapped(TouchField *field);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -29,9 +27,10 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
-private:
+private Q_SLOTS:
     void showBeginning();
 
+private:
     const FieldRule &m_rule;
 };
 

@@ -11,10 +11,31 @@
 #include <QGraphicsView>
 #include <QTranslator>
 
+namespace {
+
+// Options are answered where there is no display, too.
+Options readOptions(int argc, char *argv[])
+{
+    return readOptions(QCoreApplication(argc, argv).arguments());
+}
+
+QtMessageHandler qtHandler = nullptr;
+
+// Qt's offscreen platform complains whenever a visible window gets a fixed size, as the G-code
+// keypad does at every show. Nothing is amiss, so this one line is left out.
+void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (message != QLatin1String("This plugin does not support propagateSizeHints()"))
+        qtHandler(type, context, message);
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
+    qtHandler = qInstallMessageHandler(handleMessage);
+    const Options options = readOptions(argc, argv);
     QApplication application(argc, argv);
-    const Options options = readOptions();
 
     // The panel model first, then the rotation: both decide the size of the view.
     HMIDeviceInfo::setDeviceInfo(options.type, options.size);
@@ -27,7 +48,7 @@ int main(int argc, char *argv[])
         application.installTranslator(&translator);
 
     QGraphicsView view;
-    view.setWindowTitle("hmi-demo");
+    view.setWindowTitle(QLatin1String("hmi-demo"));
     view.setFrameShape(QFrame::NoFrame); // so that keypads cover exactly what is seen
     view.setFixedSize(HMIDeviceInfo::screenSize());
     HMIDeviceInfo::setGraphicsView(&view);
