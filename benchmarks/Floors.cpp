@@ -8,9 +8,13 @@
 #include <QToolButton>
 #include <QVariant>
 
-static const char connectionName[] = "floor";
-static const int keysPerRow = 10;
-static const int mostRows = 256; // what the keypad's model reports at most
+namespace {
+
+const QLatin1String connectionName("floor");
+const int keysPerRow = 10;
+const int mostRows = 256; // what the keypad's model reports at most
+
+} // namespace
 
 QDialog *createBareKeypad(int keys)
 {
@@ -28,25 +32,24 @@ QDialog *createBareKeypad(int keys)
 
 PreparedQuery::PreparedQuery(const QString &file)
 {
-    QSqlDatabase database =
-        QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QLatin1String(connectionName));
+    QSqlDatabase database = QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), connectionName);
     database.setDatabaseName(file);
-    database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+    database.setConnectOptions(QLatin1String("QSQLITE_OPEN_READONLY"));
     database.open();
     m_query = QSqlQuery(database);
     m_query.setForwardOnly(true);
-    m_query.prepare(QStringLiteral("SELECT word FROM pinyin WHERE py = ?"));
+    m_query.prepare(QLatin1String("SELECT word FROM pinyin WHERE py = ?"));
 }
 
 PreparedQuery::~PreparedQuery()
 {
     m_query = QSqlQuery();
-    QSqlDatabase::removeDatabase(QLatin1String(connectionName));
+    QSqlDatabase::removeDatabase(connectionName);
 }
 
 bool PreparedQuery::isUsable() const
 {
-    return QSqlDatabase::database(QLatin1String(connectionName), false).isOpen();
+    return QSqlDatabase::database(connectionName, false).isOpen();
 }
 
 QStringList PreparedQuery::candidates(const QString &pinyin)

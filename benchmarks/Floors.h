@@ -7,10 +7,10 @@
 
 class QDialog;
 
-/* A dialog with a bare Qt edit line and \a keys bare Qt tool buttons in a grid, never shown. */
+// A dialog with a bare Qt edit line and bare Qt tool buttons in a grid, never shown.
 QDialog *createBareKeypad(int keys);
 
-/* The pinyin query on a prepared statement, on a connection of its own to the same file. */
+// The pinyin query on a prepared statement, on a connection of its own to the same file.
 class PreparedQuery
 {
 public:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Floors.h"
-#include "Stopwatch.h"
+#include "Measurement.h"
 
 #include <HMIDevice/CharacterKeypad.h>
 #include <HMIDevice/DateTimeKeypad.h>
@@ -18,11 +18,13 @@
 
 // What the library costs, beside what the same thing costs without it.
 
-static const int constructionRounds = 200;
-static const int keyRounds = 5000;
-static const int letterRounds = 500;
+namespace {
 
-static void report(const QString &what, const Comparison &comparison)
+const int constructionRounds = 200;
+const int keyRounds = 5000;
+const int letterRounds = 500;
+
+void report(const QString &what, const Comparison &comparison)
 {
     QTextStream(stdout)
         << what.leftJustified(44) << ' '
@@ -31,7 +33,7 @@ static void report(const QString &what, const Comparison &comparison)
         << QString::number(comparison.library / comparison.floor, 'f', 2).rightJustified(7) << '\n';
 }
 
-static QToolButton *key(const QWidget &keypad, const char *label)
+QToolButton *key(const QWidget &keypad, const char *label)
 {
     const QList<QToolButton *> keys = keypad.findChildren<QToolButton *>();
     for (QToolButton *button : keys) {
@@ -43,7 +45,7 @@ static QToolButton *key(const QWidget &keypad, const char *label)
 }
 
 template <class Keypad>
-static void compareConstruction(const char *name)
+void compareConstruction(const char *name)
 {
     const int keys =
         Keypad(nullptr, Qt::WindowFlags()).template findChildren<QToolButton *>().size();
@@ -53,12 +55,12 @@ static void compareConstruction(const char *name)
     const auto floor = [keys] {
         delete createBareKeypad(keys);
     };
-    report(QStringLiteral("%1: new, beside %2 bare keys").arg(QLatin1String(name)).arg(keys),
+    report(QString::fromLatin1("%1: new, beside %2 bare keys").arg(QLatin1String(name)).arg(keys),
            compare(library, floor, constructionRounds));
 }
 
 template <class Keypad>
-static void compareKeyPress(const char *name, const char *label)
+void compareKeyPress(const char *name, const char *label)
 {
     Keypad keypad(nullptr, Qt::WindowFlags());
     KeyBoardLineEdit *editLine = keypad.template findChild<KeyBoardLineEdit *>();
@@ -76,13 +78,13 @@ static void compareKeyPress(const char *name, const char *label)
         button->blockSignals(false);
         bare.insert(text);
     };
-    report(QStringLiteral("%1: a key, beside click and insertion").arg(QLatin1String(name)),
+    report(QString::fromLatin1("%1: a key, beside click and insertion").arg(QLatin1String(name)),
            compare(library, floor, keyRounds));
 }
 
-static void compareLetters(const QStringList &letters)
+void compareLetters(const QStringList &letters)
 {
-    PreparedQuery query(QCoreApplication::applicationDirPath() + QStringLiteral("/data.db"));
+    PreparedQuery query(QCoreApplication::applicationDirPath() + QLatin1String("/data.db"));
     if (!query.isUsable()) {
         QTextStream(stdout) << "No dictionary beside the program: pinyin is not measured\n";
         return;
@@ -106,13 +108,14 @@ static void compareLetters(const QStringList &letters)
                 query.candidates(shorter);
         };
         const int rows = query.candidates(pinyin).size();
-        report(QStringLiteral("\"%1\" (%2 rows) and back, beside queries").arg(pinyin).arg(rows),
-               compare(library, floor, letterRounds));
+        report(
+            QString::fromLatin1("\"%1\" (%2 rows) and back, beside queries").arg(pinyin).arg(rows),
+            compare(library, floor, letterRounds));
         button->click();
     }
 }
 
-static void reportMemory()
+void reportMemory()
 {
     const long before = residentMemory();
     const std::unique_ptr<QWidget> keypads[] = {
@@ -125,6 +128,8 @@ static void reportMemory()
     QTextStream(stdout) << "The first five keypads take " << residentMemory() - before
                         << " KiB of memory, with what Qt loads for them\n";
 }
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -140,7 +145,7 @@ int main(int argc, char **argv)
     compareKeyPress<NumericKeypad>("NumericKeypad", "7");
     compareKeyPress<GCodeKeypad>("GCodeKeypad", "G");
     compareKeyPress<CharacterKeypad>("CharacterKeypad", "q");
-    compareLetters({ QStringLiteral("z"), QStringLiteral("h"), QStringLiteral("u") });
-    compareLetters({ QStringLiteral("v") }); // begins no syllable
+    compareLetters({ QLatin1String("z"), QLatin1String("h"), QLatin1String("u") });
+    compareLetters({ QLatin1String("v") }); // begins no syllable
     return 0;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Stopwatch.h"
+#include "Measurement.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <vector>
 
-static double microseconds(const std::function<void()> &operation)
+namespace {
+
+double microseconds(const std::function<void()> &operation)
 {
     QElapsedTimer timer;
     timer.start();
@@ -16,12 +18,14 @@ static double microseconds(const std::function<void()> &operation)
     return timer.nsecsElapsed() / 1000.0;
 }
 
-static double median(std::vector<double> values)
+double median(std::vector<double> values)
 {
     const auto middle = values.begin() + values.size() / 2;
     std::nth_element(values.begin(), middle, values.end());
     return *middle;
 }
+
+} // namespace
 
 Comparison compare(const std::function<void()> &library, const std::function<void()> &floor,
                    int rounds)
@@ -39,9 +43,9 @@ Comparison compare(const std::function<void()> &library, const std::function<voi
 
 long residentMemory()
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status(QLatin1String("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly))
         return 0;
-    const QRegularExpression line(QStringLiteral("VmRSS:\\s+(\\d+) kB"));
+    const QRegularExpression line(QLatin1String("VmRSS:\\s+(\\d+) kB"));
     return line.match(QString::fromLatin1(status.readAll())).captured(1).toLong();
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef STOPWATCH_H
-#define STOPWATCH_H
+#ifndef MEASUREMENT_H
+#define MEASUREMENT_H
 
 #include <functional>
 
@@ -10,14 +10,12 @@ struct Comparison
     double floor;   // microseconds
 };
 
-/*
- * Medians of \a rounds rounds, each of which runs both operations once, in turns, so that a change
- * of the processor's pace touches both alike.
- */
+// Medians of rounds, each of which runs both operations once, in turns, so that a change of the
+// processor's pace touches both alike.
 Comparison compare(const std::function<void()> &library, const std::function<void()> &floor,
                    int rounds);
 
-/* The process's resident memory in KiB, or 0 where the system does not tell. */
+// The process's resident memory in KiB, or 0 where the system does not tell.
 long residentMemory();
 
 #endif
