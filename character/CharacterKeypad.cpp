@@ -110,12 +110,12 @@ CharacterKeypad::CharacterKeypad(QWidget *parent, Qt::WindowFlags flags)
 {
     static_assert(letterCount == LetterCount, "a symbol for each letter key");
     drawWindow();
+    Keypad::setUpFonts(this, Keypad::manyKeysPoints); // before a panel is shown, and takes a style
     m_signalMapper = new QSignalMapper(this);
     connect(m_signalMapper, HMI_MAPPED_STRING_SIGNAL, this, SLOT(sendContent(QString)));
     setUpEnglish();
     setUpConnect();
     openDb();
-    Keypad::setUpFonts(this, Keypad::manyKeysPoints);
 }
 
 CharacterKeypad::~CharacterKeypad()

@@ -40,7 +40,8 @@ void KeyButton::mouseReleaseEvent(QMouseEvent *event)
 void KeyButton::paintEvent(QPaintEvent *event)
 {
     const QRect rect = labelRect();
-    if (fits(sizeOf(text(), font(), labelFlags), rect.size())) {
+    const QSize room = rect.size() - QSize(2, 2); // a pixel off what surrounds it
+    if (!showsOnlyText() || fits(sizeOf(text(), font(), labelFlags), room)) {
         QToolButton::paintEvent(event);
         return;
     }
@@ -52,23 +53,30 @@ void KeyButton::paintEvent(QPaintEvent *event)
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
 
     option.rect = rect;
-    option.font = fittedFont(font(), text(), labelFlags, rect.size());
+    option.font = fittedFont(font(), text(), labelFlags, room);
     option.fontMetrics = QFontMetrics(option.font);
-    option.text = fittedText(option.font, text(), labelFlags, rect.size());
+    option.text = fittedText(option.font, text(), labelFlags, room);
     painter.drawControl(QStyle::CE_ToolButtonLabel, option);
 }
 
-// Inside what a style sheet puts around a label, or else inside the style's frame, and a pixel off.
+bool KeyButton::showsOnlyText() const
+{
+    return icon().isNull() && arrowType() == Qt::NoArrow;
+}
+
+// Inside what a style sheet puts around a label, or else inside the style's frame.
+// A tool button's label does not change sides with the direction of the layout.
 QRect KeyButton::labelRect() const
 {
     QStyleOptionToolButton option;
     initStyleOption(&option);
+    option.direction = Qt::LeftToRight;
     QRect rect = style()->subElementRect(QStyle::SE_FrameContents, &option, this);
     if (rect.isEmpty()) {
         const int frame = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, this);
         rect = option.rect.adjusted(frame, frame, -frame, -frame);
     }
-    return rect.adjusted(1, 1, -1, -1);
+    return rect;
 }
 
 } // namespace Keypad

@@ -21,6 +21,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    bool showsOnlyText() const;
     QRect labelRect() const;
 };
 

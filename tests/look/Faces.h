@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#ifndef FACES_H
+#define FACES_H
+
+#include "support/AnyKeypad.h"
+
+// Every face that a keypad has, on every panel.
+
+// The columns "type" and "size": every size of screen, in the panel type with a scheme of colours
+// and in another.
+void addPanelRows();
+
+// A keypad of the current kind, shown over all of a panel: that of the current row, or the given
+// one.
+class FaceStage : public AnyStage
+{
+public:
+    FaceStage();
+    FaceStage(DeviceType type, const QSize &size);
+
+    // Shows the next face of the keypad; false after the last one.
+    bool showNextFace();
+
+    // What can be seen of the keypad: keys that have a label, and labels that have a text.
+    QList<QToolButton *> shownKeys();
+    QList<QLabel *> shownLabels();
+
+private:
+    int m_face;
+};
+
+#endif

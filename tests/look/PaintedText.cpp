@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "PaintedText.h"
+
+#include "support/Text.h"
+
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QScopedPointer>
+#include <QTextDocument>
+
+namespace {
+
+const int smallestPixelSize = 8;
+
+bool fits(const QSize &size, const QSize &room)
+{
+    return size.width() <= room.width() && size.height() <= room.height();
+}
+
+QRect within(const QRect &rect, const QMargins &around)
+{
+    return rect.adjusted(around.left(), around.top(), -around.right(), -around.bottom());
+}
+
+// The inside without the pixel that keeps a smaller text off the border.
+QSize roomIn(const QWidget *widget, const QMargins &around)
+{
+    return within(widget->rect(), around).adjusted(1, 1, -1, -1).size();
+}
+
+void makeAlike(QWidget *twin, const QWidget *widget)
+{
+    twin->setObjectName(widget->objectName());
+    twin->setPalette(widget->palette());
+    twin->setFont(widget->font());
+    twin->setEnabled(widget->isEnabled());
+    twin->setLayoutDirection(widget->layoutDirection());
+    twin->setGeometry(widget->geometry());
+    twin->ensurePolished();
+}
+
+// The font of a style sheet gives way to another style sheet only.
+void setPixelSize(QWidget *twin, int pixels)
+{
+    QFont font(twin->font());
+    font.setPixelSize(pixels);
+    if (twin->testAttribute(Qt::WA_StyleSheet))
+        twin->setStyleSheet(QString::fromLatin1("* { font-size: %1px }").arg(pixels));
+    else
+        twin->setFont(font);
+    twin->ensurePolished();
+}
+
+// Gives \a twin the largest font in which its text fits \a room; or the smallest font that is still
+// legible, and of the text what fits then.
+template <class Twin>
+void shrink(Twin *twin, int flags, const QSize &room)
+{
+    const QString text = twin->text();
+    QFont font(twin->font());
+    for (int size = QFontInfo(font).pixelSize(); size > smallestPixelSize; --size) {
+        font.setPixelSize(size);
+        if (fits(QFontMetrics(font).size(flags, text), room))
+            break;
+        font.setPixelSize(smallestPixelSize);
+    }
+    setPixelSize(twin, font.pixelSize());
+    const QFontMetrics metrics(font);
+    if (metrics.size(flags, text).width() > room.width())
+        twin->setText(metrics.elidedText(text, Qt::ElideRight, room.width(), flags));
+}
+
+// Grown by an even number of pixels, so that a centred text keeps its place among the pixels.
+template <class Widget>
+QSize unclippedInkSize(Widget *twin)
+{
+    twin->resize(twin->size() + 2 * twin->sizeHint());
+    return inkOf(twin).rect.size();
+}
+
+template <class Widget>
+QString complaintAboutInk(Widget *widget, Widget *twin, const QMargins &around)
+{
+    const Ink ink = inkOf(widget);
+    const Ink twinsInk = inkOf(twin);
+    if (ink.rect.isEmpty())
+        return u("is blank");
+    if (!within(widget->rect(), around).contains(ink.rect))
+        return u("reaches into its border");
+    if (ink.picture != twinsInk.picture)
+        return u("is drawn otherwise than by Qt at %1 pixels").arg(twin->font().pixelSize());
+    if ((ink.rect.center() - twinsInk.rect.center()).manhattanLength() > 2)
+        return u("is out of place");
+    if (ink.rect.size() != unclippedInkSize(twin))
+        return u("is cut");
+    return QString();
+}
+
+template <class Widget>
+QString complaintAboutFittingText(Widget *widget, Widget *twin, const QMargins &around)
+{
+    if (pictureOf(widget) != pictureOf(twin))
+        return u("differs from a plain one");
+    return complaintAboutInk(widget, twin, around);
+}
+
+template <class Widget>
+QString described(const Widget *widget, const QString &complaint)
+{
+    if (complaint.isEmpty())
+        return QString();
+    return QString::fromLatin1("%1 \"%2\", %3x%4 pixels, %5")
+        .arg(widget->objectName(), widget->text().left(40))
+        .arg(widget->width())
+        .arg(widget->height())
+        .arg(complaint);
+}
+
+bool isRich(const QLabel *label)
+{
+    return label->textFormat() == Qt::RichText
+        || (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(label->text()));
+}
+
+// Rich text is drawn smaller as a picture is.
+QString complaintAboutSmallRichText(QLabel *label, QLabel *twin, const QMargins &around)
+{
+    const QRect inside = within(label->rect(), around);
+    const Ink ink = inkOf(label);
+    const QSize needed = within(QRect(QPoint(), twin->sizeHint()), around).size();
+    const QSize room = roomIn(label, around);
+    const double scale =
+        qMin(double(room.width()) / needed.width(), double(room.height()) / needed.height());
+    twin->resize(twin->sizeHint());
+    const QSize wanted = inkOf(twin).rect.size() * scale;
+    const QSize difference = ink.rect.size() - wanted;
+    if (ink.rect.isEmpty())
+        return u("is blank");
+    if (!inside.contains(ink.rect))
+        return u("reaches into its border");
+    if (qAbs(difference.width()) > 2 || qAbs(difference.height()) > 2)
+        return u("is not as large as it can be, %1x%2 pixels for %3x%4")
+            .arg(ink.rect.width())
+            .arg(ink.rect.height())
+            .arg(wanted.width())
+            .arg(wanted.height());
+    return QString();
+}
+
+QString complaintAbout(QLabel *label, QLabel *twin, const QMargins &around)
+{
+    if (fits(twin->sizeHint(), label->size()))
+        return complaintAboutFittingText(label, twin, around);
+    if (isRich(label))
+        return complaintAboutSmallRichText(label, twin, around);
+    shrink(twin, 0, roomIn(label, around));
+    return complaintAboutInk(label, twin, around);
+}
+
+} // namespace
+
+QImage pictureOf(QWidget *widget)
+{
+    QImage picture(widget->size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(0);
+    widget->render(&picture);
+    return picture;
+}
+
+Ink inkBetween(const QImage &withText, const QImage &withoutText)
+{
+    Ink ink;
+    for (int y = 0; y < withText.height(); ++y) {
+        const auto *with = reinterpret_cast<const QRgb *>(withText.constScanLine(y));
+        const auto *without = reinterpret_cast<const QRgb *>(withoutText.constScanLine(y));
+        for (int x = 0; x < withText.width(); ++x) {
+            if (with[x] != without[x])
+                ink.rect |= QRect(x, y, 1, 1);
+        }
+    }
+    ink.picture = withText.copy(ink.rect);
+    return ink;
+}
+
+QToolButton *newTwin(const QToolButton *key)
+{
+    QToolButton *twin = new QToolButton(key->parentWidget());
+    twin->setText(key->text());
+    twin->setDown(key->isDown());
+    makeAlike(twin, key);
+    return twin;
+}
+
+QLabel *newTwin(const QLabel *label)
+{
+    QLabel *twin = new QLabel(label->text(), label->parentWidget());
+    twin->setTextFormat(label->textFormat());
+    twin->setAlignment(label->alignment());
+    twin->setMargin(label->margin());
+    twin->setIndent(label->indent());
+    twin->setFrameStyle(label->frameStyle());
+    makeAlike(twin, label);
+    return twin;
+}
+
+QString complaintAbout(QToolButton *key, const QMargins &around)
+{
+    const QScopedPointer<QToolButton> twin(newTwin(key));
+    const QSize needed = QFontMetrics(key->font()).size(Qt::TextShowMnemonic, key->text());
+    const QSize room = roomIn(key, around);
+    if (fits(needed, room))
+        return described(key, complaintAboutFittingText(key, twin.data(), around));
+    shrink(twin.data(), Qt::TextShowMnemonic, room);
+    return described(key, complaintAboutInk(key, twin.data(), around));
+}
+
+QString complaintAbout(QLabel *label, const QMargins &around)
+{
+    const QScopedPointer<QLabel> twin(newTwin(label));
+    return described(label, complaintAbout(label, twin.data(), around));
+}
