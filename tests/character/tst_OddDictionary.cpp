@@ -179,10 +179,10 @@ void tst_OddDictionary::aLongCandidateCostsWhatFitsOfIt()
     double leastFloor = 0;
     for (int run = 0; run < 3; ++run) {
         CharacterKeypad keypad(nullptr, Qt::WindowFlags());
-        keypad.setMaxLength(longest);
-        CHECKED(press(keypad, "CN n i"));
+        keypad.setMaxLength(longest + 1);
+        CHECKED(press(keypad, ". CN n i"));
         const double tap = cost([&] { tapCandidate(keypad, 0); });
-        QVERIFY(editLine(&keypad)->text() == part);
+        QVERIFY(editLine(&keypad)->text() == u(".") + part);
         QLineEdit bare;
         bare.setFont(keypad.font());
         bare.setMaxLength(longest);

@@ -202,6 +202,10 @@ void tst_Pinyin::aSelectionIsReplacedByACandidate()
     stage.line()->setSelection(0, 2);
     CHECKED(stage.type("s k j c 1"));
     QCOMPARE(stage.shown(), u(":  | 数控控"));
+    stage.keypad.setMaxLength(7);
+    stage.line()->setSelection(0, 2);
+    CHECKED(stage.type("s k j c 1"));
+    QCOMPARE(stage.shown(), u(":  | 数控机床控"));
 }
 
 void tst_Pinyin::theLabelHoldsThePinyin()
