@@ -142,6 +142,7 @@ void tst_CharacterContent::contentIsTakenLiterally_data()
                  { "mode key in symbols", "*#", "*#", "a*#b" },
                  { "key of another mode, Chinese", "CN", "CN", "aCNb" },
                  { "back key, Chinese", "CN", "<<", "a<<b" },
+                 { "caps in Chinese", "CN", "caps", "acapsb" },
                  { "ampersands in English", "", "&&", "a&&b" },
                  { "three ampersands in symbols", "*#", "&&&", "a&&&b" },
                  { "capital letter, Chinese", "CN", "N", "aNb" },
