@@ -4,6 +4,8 @@
 
 #include "CharacterDriver.h"
 
+#include <QApplication>
+
 // A keypad in Chinese mode with a text of "ab" and the cursor between.
 class ChineseStage : public CharacterStage
 {

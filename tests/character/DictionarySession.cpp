@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DictionarySession.h"
 
+#include <QApplication>
+
 namespace {
 
 // A key asks once, and once more after reading the columns anew where a file could not be read.

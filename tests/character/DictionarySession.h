@@ -6,6 +6,7 @@
 #include "support/MessageLog.h"
 
 #include <QPointer>
+#include <QScopedPointer>
 #include <QSqlTableModel>
 
 // Works one new keypad as an operator does, over the registered view or, where there is none,

@@ -2,6 +2,8 @@
 #include "DictionarySession.h"
 #include "support/DictionaryFile.h"
 
+#include <QDir>
+
 #include <random>
 
 // Whatever lies beside the application as its dictionary, the keypad neither crashes nor prints nor

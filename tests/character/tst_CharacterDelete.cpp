@@ -2,6 +2,7 @@
 #include "CharacterDriver.h"
 
 #include <QIntValidator>
+#include <QScopedPointer>
 
 // What "Del" takes away, and the rule of its own that date-time fields have.
 

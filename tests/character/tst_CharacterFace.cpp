@@ -3,8 +3,10 @@
 #include "support/DarkScheme.h"
 #include "support/DictionaryFile.h"
 
+#include <QApplication>
 #include <QFontInfo>
 #include <QGridLayout>
+#include <QLabel>
 #include <QSignalMapper>
 
 // The keypad as an operator sees it: its parts, its four faces, its colours and its place.

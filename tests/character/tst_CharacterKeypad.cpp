@@ -4,7 +4,9 @@
 #include "support/MessageLog.h"
 
 #include <QIntValidator>
+#include <QMetaMethod>
 #include <QPointer>
+#include <QScopedPointer>
 #include <QSignalMapper>
 #include <QSqlDatabase>
 #include <QSqlQuery>

@@ -3,6 +3,8 @@
 
 #include <HMIDevice/ClickLabel.h>
 
+#include <QApplication>
+#include <QLabel>
 #include <QMouseEvent>
 
 namespace {

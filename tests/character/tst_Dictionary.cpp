@@ -4,7 +4,9 @@
 #include "support/MessageLog.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
+#include <QScopedPointer>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QSqlTableModel>

@@ -2,6 +2,8 @@
 #include "ChineseStage.h"
 #include "support/DictionaryFile.h"
 
+#include <QScopedPointer>
+
 // What the keys make of a composition. What is read of the dictionary is in tst_Dictionary.
 
 namespace {

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QScopedPointer>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
