@@ -11,20 +11,22 @@
 #include "PinyinDictionary_p.h"
 
 #include <QLabel>
-#include <QSignalMapper>
 
 using namespace CharacterKeys;
 
 namespace {
 
 const int longestPinyin = 11; // letters
+const int longText = 1000;    // characters
 
-// What the edit line will take of a text. It copies that part of a longer one again for each
+// What the edit line will take of a long text. It copies that part of a longer one again for each
 // character in it: a candidate of a megabyte would hold a slow panel up for seconds.
 QString fittingPart(const QLineEdit *line, const QString &text)
 {
+    if (text.size() <= longText || !line->inputMask().isEmpty())
+        return text;
     const int kept = int(line->text().size() - line->selectedText().size());
-    return line->inputMask().isEmpty() ? text.left(line->maxLength() - kept) : text;
+    return text.left(line->maxLength() - kept);
 }
 
 } // namespace
@@ -101,9 +103,9 @@ void CharacterKeypad::sendChnContent(const QString &text)
     } else if (letters().contains(text)) {
         if (pinyin().length() < longestPinyin)
             compose(pinyin() + text);
-    } else if (text == QLatin1String(">")) {
+    } else if (text == QLatin1String(nextPageLabel)) {
         m_chnPanel->nextPage(m_candidates, m_signalMapper);
-    } else if (text == QLatin1String("<")) {
+    } else if (text == QLatin1String(previousPageLabel)) {
         m_chnPanel->prePage(m_candidates, m_signalMapper);
     } else {
         clearComposition();

@@ -6,6 +6,7 @@
 #include "ClickLabel.h"
 #include "HMIDeviceInfo.h"
 #include "KeyBoardLineEdit.h"
+#include "KeypadFont_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
 #include "NumPanel.h"
@@ -109,6 +110,7 @@ CharacterKeypad::CharacterKeypad(QWidget *parent, Qt::WindowFlags flags)
     , m_lastMode(EnglishMode)
 {
     static_assert(letterCount == LetterCount, "a symbol for each letter key");
+    static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
     drawWindow();
     Keypad::setUpFonts(this, Keypad::manyKeysPoints); // before a panel is shown, and takes a style
     m_signalMapper = new QSignalMapper(this);
@@ -166,7 +168,6 @@ void CharacterKeypad::keyPressEvent(QKeyEvent *event)
 
 void CharacterKeypad::showEvent(QShowEvent *event)
 {
-    Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
 }
@@ -182,6 +183,8 @@ void CharacterKeypad::drawWindow()
     m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_chnPanel = new ChnPanel(this);
     m_numPanel = new NumPanel(this);
+    m_chnPanel->setObjectName(QLatin1String("candidatePanel"));
+    m_numPanel->setObjectName(QLatin1String("digitPanel"));
     grid->addWidget(m_lineEdit, 0, 0, 1, gridColumns);
     grid->addWidget(m_chnPanel, 1, 0, 1, gridColumns);
     grid->addWidget(m_numPanel, 2, 0, 1, gridColumns);
@@ -211,6 +214,7 @@ QVector<QToolButton **> CharacterKeypad::keyMembers()
                    << &m_languageKey << &m_symbolKey << &m_commaKey << &m_periodKey;
 }
 
+// Each panel answers null beyond its last key.
 QList<QWidget *> CharacterKeypad::mappedKeys()
 {
     QList<QWidget *> keys;

@@ -5,6 +5,7 @@
 #include "HMIDeviceExport.h"
 
 #include <QDialog>
+#include <QList>
 #include <QPointer>
 #include <QStringList>
 #include <QVector>
@@ -37,8 +38,9 @@ class QValidator;
  * "pinyin", first column "py" (a pinyin of at most 11 lower-case letters, ü as v), second column
  * one candidate, rows in ranking order. Give it an index on "py", or every letter reads the whole
  * table; at most 256 rows of a pinyin are seen. The file is opened when the keypad is built, under
- * the connection name "pinyin", and queried once for each letter typed or taken back; without it
- * there are no candidates. The keypad writes nothing into it, but an application may, through that
+ * the connection name "pinyin", and queried once for each letter typed, or taken back while others
+ * are left; without it there are no candidates, and one that appears later is not looked for. The
+ * keypad writes nothing into it, but an application may, through that
  * connection, so that words can be learned.
  *
  * While another process has the file locked for writing, a letter has no candidates; nothing waits,
@@ -82,7 +84,10 @@ public:
      */
     void setObject(QObject *object);
 
-    /*! The longest text, in characters, that can be entered; until the next setObject(). */
+    /*!
+     * The longest text, in characters (0 to 32767), that can be entered; until the next
+     * setObject(). A longer text that is being edited is cut at once.
+     */
     void setMaxLength(int length);
 
     /*!
@@ -95,7 +100,10 @@ public:
     /*! Masks what is entered when \a on; until the next setObject(). */
     void setPasswordEchoMode(bool on);
 
-    /*! Replaces the text being edited and selects all of it, so that the first key replaces it. */
+    /*!
+     * Replaces the text being edited and selects all of it, so that the first key replaces it. A
+     * text beyond the maximum length is cut; a validator is not asked.
+     */
     void setText(const QString &text);
 
 Q_SIGNALS:
@@ -115,7 +123,7 @@ private Q_SLOTS:
     void sendContent(const QString &text);
 
 private:
-    enum { LetterCount = 26 };
+    enum { LetterCount = 26, KeyCount = LetterCount + 9 };
     enum Mode { EnglishMode, SymbolMode, ChineseMode };
 
     void drawWindow();

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ChnPanel.h"
 
+#include "CharacterKeys_p.h"
 #include "ClickLabel.h"
 #include "FittedLabel_p.h"
 #include "KeyButton_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
+#include "QtDifferences_p.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
 
 namespace {
 
@@ -31,7 +35,7 @@ QToolButton *createPagingButton(QWidget *parent, const char *label, const char *
     QToolButton *button = new PagingButton(parent);
     Keypad::setUpKey(button, QLatin1String(label));
     button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(accessibleName);
+    QtDifferences::setAccessibleName(button, accessibleName);
     return button;
 }
 
@@ -39,7 +43,8 @@ QToolButton *createPagingButton(QWidget *parent, const char *label, const char *
 template <class Label>
 Label *createLabel(QWidget *parent, int minimumWidthInLines)
 {
-    Label *label = new Keypad::FittedLabel<Label>(QString(), parent, minimumWidthInLines, 1);
+    Label *label =
+        new Keypad::FittedLabel<Label>(QString(), parent, minimumWidthInLines, Keypad::oneLine);
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     Keypad::colourLabel(label);
@@ -53,7 +58,7 @@ ChnPanel::ChnPanel(QWidget *parent)
     , m_currentPage(0)
     , m_pageCount(0)
 {
-    m_previousButton = createPagingButton(this, "<", "previousPageKey",
+    m_previousButton = createPagingButton(this, CharacterKeys::previousPageLabel, "previousPageKey",
                                           QCoreApplication::translate("Keypad", "Previous page"));
     m_pinyinLabel = createLabel<QLabel>(this, pinyinMinimumWidth);
     m_pinyinLabel->setObjectName(QLatin1String("pinyinLabel"));
@@ -65,7 +70,7 @@ ChnPanel::ChnPanel(QWidget *parent)
         m_candidateLabels[i]->setObjectName(QString::fromLatin1("candidate%1").arg(i + 1));
         layout->addWidget(m_candidateLabels[i]);
     }
-    m_nextButton = createPagingButton(this, ">", "nextPageKey",
+    m_nextButton = createPagingButton(this, CharacterKeys::nextPageLabel, "nextPageKey",
                                       QCoreApplication::translate("Keypad", "Next page"));
     layout->addWidget(m_nextButton);
     hide();

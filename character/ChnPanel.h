@@ -37,10 +37,13 @@ public:
     /*! The candidate label \a index, 0 to 4, owned by the strip; null for any other index. */
     ClickLabel *getClickLabel(short index);
 
-    /*! The paging button: 0 for the previous page, 1 for the next one; null for any other index. */
+    /*!
+     * The paging button: 0 for the previous page, 1 for the next one; null for any other index.
+     * Owned by the strip.
+     */
     QToolButton *getToolButton(short index);
 
-    /*! The label of the pinyin; its text is the caller's to read and write. */
+    /*! The label of the pinyin, owned by the strip; its text is the caller's to read and write. */
     QLabel *getPinyinLabel();
 
     /*!

@@ -8,7 +8,10 @@
 
 class QGraphicsView;
 
-/*! The number of a panel model. 1 to 21 are known; any other number is an unknown model. */
+/*!
+ * The number of a panel model. 1 to 10, 13 to 15 and 19 to 21 are known; any other is an unknown
+ * model.
+ */
 typedef int DeviceType;
 
 /*!

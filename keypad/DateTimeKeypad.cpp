@@ -5,9 +5,12 @@
 #include "HMIDeviceInfo.h"
 #include "KeyBoardLineEdit.h"
 #include "KeyButton_p.h"
+#include "KeypadFont_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
+#include "QtDifferences_p.h"
 
+#include <QColor>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QGraphicsView>
@@ -16,7 +19,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
+#include <QPalette>
 #include <QSpinBox>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -33,7 +38,8 @@ const QRgb white = qRgb(255, 255, 255);
 const QRgb invalidColour = qRgb(255, 153, 51); // orange
 
 // clang-format off
-// The hour reaches 24, which composes no time: the display is then empty.
+// The hour reaches 24, which composes no time: the display is then empty, or shows midnight with a
+// date.
 const struct
 {
     const char *name;
@@ -187,7 +193,6 @@ QSpinBox *DateTimeKeypad::focusSpinBox()
 void DateTimeKeypad::showEvent(QShowEvent *event)
 {
     focusEnabledField();
-    Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
 }
@@ -237,7 +242,7 @@ void DateTimeKeypad::setUpFields()
     for (int i = 0; i < FieldCount; ++i) {
         QSpinBox *field = new QSpinBox(this);
         field->setObjectName(QLatin1String(fieldCells[i].name) + QLatin1String("Field"));
-        field->setAccessibleName(tr(fieldCells[i].label));
+        QtDifferences::setAccessibleName(field, tr(fieldCells[i].label));
         field->setLocale(QLocale::c());
         field->setButtonSymbols(QAbstractSpinBox::NoButtons);
         field->setRange(fieldCells[i].minimum, fieldCells[i].maximum);
@@ -254,6 +259,10 @@ void DateTimeKeypad::setUpButtons()
         m_digitButtons[i] = createButton(digitLabels[i], Keypad::InsertLabel);
     m_plusButton = createButton(QT_TR_NOOP("+"), Keypad::InsertLabel);
     m_minusButton = createButton(QT_TR_NOOP("-"), Keypad::InsertLabel);
+    QtDifferences::setAccessibleName(m_plusButton,
+                                     QCoreApplication::translate("Keypad", "Increase"));
+    QtDifferences::setAccessibleName(m_minusButton,
+                                     QCoreApplication::translate("Keypad", "Decrease"));
     m_deleteButton = createButton(QT_TR_NOOP("Delete"), Keypad::Backspace);
     m_okButton = createButton(QT_TR_NOOP("Ok"), Keypad::Confirm);
     m_cancelButton = createButton(QT_TR_NOOP("Cancel"), Keypad::Cancel);
@@ -284,7 +293,8 @@ QLayout *DateTimeKeypad::labelledFields()
     QGridLayout *grid = new QGridLayout;
     grid->setSpacing(Keypad::keySpacing);
     for (int i = 0; i < FieldCount; ++i) {
-        QLabel *label = new Keypad::FittedLabel<QLabel>(tr(fieldCells[i].label), this, 0, 1);
+        QLabel *label = new Keypad::FittedLabel<QLabel>(tr(fieldCells[i].label), this,
+                                                        Keypad::anyWidth, Keypad::oneLine);
         label->setObjectName(QLatin1String(fieldCells[i].name) + QLatin1String("Label"));
         label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
         grid->addWidget(label, fieldCells[i].row, fieldCells[i].column);
@@ -344,7 +354,10 @@ void DateTimeKeypad::edit(QSpinBox *field, const QObject *button)
     } else if (button == m_minusButton) {
         field->stepDown();
     } else {
-        QToolButton *const *place = std::find(m_digitButtons, m_digitButtons + DigitCount, button);
+        QToolButton *const *end = m_digitButtons + DigitCount;
+        QToolButton *const *place = std::find<QToolButton *const *>(m_digitButtons, end, button);
+        if (place == end)
+            return;
         const int digit = int(place - m_digitButtons + 1) % 10;
         pressKey(field, Qt::Key_0 + digit, QString::number(digit));
     }

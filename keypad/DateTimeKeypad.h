@@ -26,9 +26,9 @@ class QValidator;
  * the context "DateTimeKeypad" when the keypad is built, so install a translator before that.
  *
  * The year goes from 1600 to 9999, the hour to 24: that is no time of day, and the display is then
- * empty or, with a date, shows midnight. A field whose digits are no value is orange until it is
- * right or left. "Ok" writes what the display shows; without a target it does nothing, and the
- * keypad stays open.
+ * empty or, with a date, shows midnight. A field that is no value after a
+ * tap on a key is orange until it is right or left. "Ok" writes what the display shows; without a
+ * target it does nothing, and the keypad stays open.
  */
 class HMIDEVICE_EXPORT DateTimeKeypad : public QDialog
 {
@@ -70,7 +70,11 @@ public:
      */
     void setMaxLength(int length);
 
-    /*! Sets a validator on the edit line; null removes it. Not owned. */
+    /*!
+     * Sets a validator on the edit line; null removes it. What the spin boxes compose is shown and
+     * written whatever it says. Not owned: keep \a validator alive until it is replaced. It stays
+     * set for later targets.
+     */
     void setValidator(const QValidator *validator);
 
     /*! Masks the edit line when \a on; until the next setObject(). */

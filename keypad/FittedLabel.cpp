@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FittedLabel_p.h"
 
-#include "FittedText_p.h"
-
 #include <QAbstractTextDocumentLayout>
+#include <QPalette>
 #include <QStyle>
 #include <QTextDocument>
 #include <QTextOption>

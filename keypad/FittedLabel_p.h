@@ -2,6 +2,8 @@
 #ifndef FITTEDLABEL_P_H
 #define FITTEDLABEL_P_H
 
+#include "FittedText_p.h"
+
 #include <QLabel>
 #include <QPainter>
 
@@ -16,6 +18,9 @@ QSize boundedSize(const QLabel *label, QSize plain, int lines);
 
 // Draws the text of \a label, which its size is too small for, smaller.
 void paintFittedText(QPainter *painter, const QLabel *label);
+
+const int anyWidth = 0;
+const int oneLine = 1;
 
 // A label that makes do with less room than its text asks for. It looks as any label does; only a
 // text that would be clipped is drawn smaller.
@@ -41,14 +46,13 @@ public:
     {
         const int width = m_leastWidth * this->fontMetrics().height();
         const QSize size(width, plainSize(this).height());
-        return boundedSize(this, size, (m_mostLines + 1) / 2);
+        return boundedSize(this, size, (m_mostLines + 3) / 4);
     }
 
 protected:
     void paintEvent(QPaintEvent *event) override
     {
-        const QSize needed = plainSize(this);
-        if (needed.width() <= this->width() && needed.height() <= this->height()) {
+        if (fits(plainSize(this), this->size())) {
             Label::paintEvent(event);
             return;
         }

@@ -94,6 +94,7 @@ GCodeKeypad *GCodeKeypad::instance()
 GCodeKeypad::GCodeKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
+    static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
     Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, keyCells, keyMembers());
 }
 

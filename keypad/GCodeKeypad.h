@@ -70,7 +70,10 @@ public:
     /*! Ignored: the "." key is always enabled. */
     void setDecimalPointEnabled(bool enabled);
 
-    /*! The longest text, in characters, that can be entered; until the next setObject(). */
+    /*!
+     * The longest text, in characters (0 to 32767), that can be entered; until the next
+     * setObject(). A longer text that is being edited is cut at once.
+     */
     void setMaxLength(int length);
 
     /*!
@@ -89,7 +92,10 @@ public:
      */
     void setLimitToolTip(const QString &text);
 
-    /*! Replaces the text being edited and selects all of it, so that the first key replaces it. */
+    /*!
+     * Replaces the text being edited and selects all of it, so that the first key replaces it. A
+     * text beyond the maximum length is cut; a validator is not asked.
+     */
     void setText(const QString &text);
 
 Q_SIGNALS:
@@ -109,7 +115,7 @@ private Q_SLOTS:
     void slot_toolButton_clicked();
 
 private:
-    enum { CharRows = 4, CharColumns = 10 };
+    enum { CharRows = 4, CharColumns = 10, KeyCount = CharRows * CharColumns + 6 };
 
     QVector<QToolButton **> keyMembers();
 

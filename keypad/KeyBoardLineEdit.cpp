@@ -6,8 +6,8 @@ KeyBoardLineEdit::KeyBoardLineEdit(QWidget *parent)
 {
 }
 
-// The three handlers do nothing of their own. They are kept because an application that was built
-// against this class calls them through its table of virtual functions, of which they are a part.
+// The three handlers do nothing of their own. They are kept because a class that an application has
+// derived from this one calls them by these names.
 
 void KeyBoardLineEdit::mousePressEvent(QMouseEvent *event)
 {

@@ -3,6 +3,8 @@
 
 #include "FittedText_p.h"
 
+#include <QFontMetrics>
+#include <QStyle>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
 
@@ -11,6 +13,7 @@ namespace Keypad {
 namespace {
 
 const int labelFlags = Qt::TextShowMnemonic;
+const int leastHeight = 20; // pixels, that limits of many lines leave a key
 
 } // namespace
 
@@ -27,7 +30,7 @@ QSize KeyButton::sizeHint() const
 
 QSize KeyButton::minimumSizeHint() const
 {
-    return QSize(0, 0);
+    return QSize(0, leastHeight);
 }
 
 // Not as a tool button, which looks at itself once more after its click: what a key does may

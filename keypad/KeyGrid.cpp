@@ -49,7 +49,7 @@ const struct
 QString nameByLabel(const QString &label)
 {
     for (const auto &sign : signNames) {
-        if (label == QString(QLatin1Char(sign.label)))
+        if (label.length() == 1 && label.at(0) == QLatin1Char(sign.label))
             return QLatin1String(sign.objectName);
     }
     return QLatin1String("key") + label.toUpper();
@@ -67,14 +67,17 @@ QString labelText(const KeyCell &cell)
 
 void nameKey(QToolButton *key, KeyAction action, const QString &label)
 {
-    key->setObjectName(nameByLabel(label));
     for (const auto &name : actionNames) {
         if (name.action != action)
             continue;
         key->setObjectName(QLatin1String(name.objectName));
-        if (name.accessibleName)
-            key->setAccessibleName(QCoreApplication::translate("Keypad", name.accessibleName));
+        if (name.accessibleName) {
+            QtDifferences::setAccessibleName(
+                key, QCoreApplication::translate("Keypad", name.accessibleName));
+        }
+        return;
     }
+    key->setObjectName(nameByLabel(label));
 }
 
 void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, const KeyMembers &members)

@@ -2,18 +2,17 @@
 #include "KeypadLook_p.h"
 
 #include "FittedLabel_p.h"
-#include "HMIDeviceInfo.h"
 #include "KeyBoardLineEdit.h"
 #include "KeyButton_p.h"
+#include "KeypadFont_p.h"
+#include "KeypadRules_p.h"
 
-#include <QAbstractSpinBox>
+#include <QColor>
 #include <QDialog>
-#include <QEvent>
-#include <QFont>
-#include <QFontInfo>
 #include <QGridLayout>
 #include <QLabel>
-#include <QList>
+#include <QPalette>
+#include <QSize>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -21,14 +20,11 @@ namespace Keypad {
 
 namespace {
 
-const DeviceType darkSchemeType = 13;
-
 const QRgb darkBlue = qRgb(15, 15, 70);
 const QRgb green = qRgb(0, 255, 0);
 const QRgb yellow = qRgb(255, 255, 0);
 
-const int tipPoints = 20;
-const int mostLimitLines = 6;       // so that there is room for keys
+const int mostLimitLines = 12;      // however many an application sets, there is room for keys
 const QSize unplacedSize(320, 240); // pixels, until the first placement over a view
 
 struct RoleColour
@@ -55,7 +51,7 @@ const RoleColour keyColours[] = { { QPalette::Active, QPalette::ButtonText, gree
 template <int count>
 void applyDarkScheme(QWidget *widget, const RoleColour (&colours)[count])
 {
-    if (HMIDeviceInfo::deviceType() != darkSchemeType)
+    if (!isPanelType13())
         return;
     QPalette palette(widget->palette());
     for (const RoleColour &colour : colours)
@@ -63,85 +59,19 @@ void applyDarkScheme(QWidget *widget, const RoleColour (&colours)[count])
     widget->setPalette(palette);
 }
 
-// Sets what \a font has by default, so that nothing of it is left to the application's own font.
-void settle(QFont *font)
+void colourEditLine(QLineEdit *editLine)
 {
-    font->setWeight(QFont::Normal);
-    font->setStyle(font->style());
-    font->setStretch(font->stretch());
-    font->setUnderline(font->underline());
-    font->setOverline(font->overline());
-    font->setStrikeOut(font->strikeOut());
-    font->setKerning(font->kerning());
-    font->setCapitalization(font->capitalization());
-    font->setLetterSpacing(font->letterSpacingType(), font->letterSpacing());
-    font->setWordSpacing(font->wordSpacing());
+    applyDarkScheme(editLine, editLineColours);
 }
 
-QFont font(int points)
+void colourKey(QToolButton *key)
 {
-    const QString family = QFontInfo(QFont(QLatin1String("simsun"))).family();
-    QFont font(family, points);
-    font.setPixelSize(qRound(points * 96 / 72.0f));
-    settle(&font);
-    return font;
+    applyDarkScheme(key, keyColours);
 }
-
-// The widgets of \a keypad, without those inside a spin box, which take its font.
-QList<QWidget *> partsOf(const QDialog *keypad)
-{
-    QList<QWidget *> parts;
-    const QList<QWidget *> widgets = keypad->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (!qobject_cast<QAbstractSpinBox *>(widget->parentWidget()))
-            parts << widget;
-    }
-    return parts;
-}
-
-// Sets a keypad's font on each of its parts. Where there is a style sheet, which may come at any
-// time, a part inherits no font, but one that is set on it stays.
-class FontShare : public QObject
-{
-public:
-    explicit FontShare(QDialog *keypad)
-        : QObject(keypad)
-        , m_keypad(keypad)
-        , m_shared(keypad->font())
-    {
-        const QList<QWidget *> parts = partsOf(keypad);
-        for (QWidget *part : parts)
-            part->setFont(m_shared);
-        keypad->installEventFilter(this);
-    }
-
-    // A font that a style sheet gives the dialog is for the dialog alone.
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::FontChange && !m_keypad->testAttribute(Qt::WA_StyleSheet))
-            replaceShared(m_keypad->font());
-        return false;
-    }
-
-private:
-    // A part that was given a font of its own keeps it.
-    void replaceShared(const QFont &font)
-    {
-        const QList<QWidget *> parts = partsOf(m_keypad);
-        for (QWidget *part : parts) {
-            if (part->font() == m_shared)
-                part->setFont(font);
-        }
-        m_shared = font;
-    }
-
-    QDialog *m_keypad;
-    QFont m_shared;
-};
 
 QLabel *createTipLabel(QDialog *keypad)
 {
-    QLabel *label = new FittedLabel<QLabel>(QString(), keypad, 0, mostLimitLines);
+    QLabel *label = new FittedLabel<QLabel>(QString(), keypad, anyWidth, mostLimitLines);
     colourLabel(label);
     label->setObjectName(QLatin1String("limitLabel"));
     label->hide();
@@ -158,22 +88,6 @@ void colourDialog(QWidget *dialog)
 void colourLabel(QLabel *label)
 {
     applyDarkScheme(label, labelColours);
-}
-
-void colourEditLine(QLineEdit *editLine)
-{
-    applyDarkScheme(editLine, editLineColours);
-}
-
-void colourKey(QToolButton *key)
-{
-    applyDarkScheme(key, keyColours);
-}
-
-void setUpFonts(QDialog *keypad, int points)
-{
-    keypad->setFont(font(points));
-    new FontShare(keypad);
 }
 
 void setUpLayout(QLayout *layout, int spacing)

@@ -8,7 +8,6 @@ class KeyBoardLineEdit;
 class QDialog;
 class QLabel;
 class QLayout;
-class QLineEdit;
 class QString;
 class QWidget;
 
@@ -19,16 +18,6 @@ namespace Keypad {
 
 void colourDialog(QWidget *dialog);
 void colourLabel(QLabel *label);
-void colourEditLine(QLineEdit *editLine);
-void colourKey(QToolButton *key);
-
-const int fewKeysPoints = 28;  // of keypads whose keys never change
-const int manyKeysPoints = 24; // of the others, which have more to show
-
-// Sets the keypads' font at \a points, in pixels at 96 dots per inch whatever the screen reports,
-// on \a keypad and all parts that it has by now. A font that the application sets on the keypad
-// later reaches them as well.
-void setUpFonts(QDialog *keypad, int points);
 
 const int keySpacing = 1; // pixels
 

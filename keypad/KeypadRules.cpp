@@ -16,7 +16,6 @@ namespace Keypad {
 
 namespace {
 
-const DeviceType handingOnType = 13;
 const int unlimitedLength = 32767;
 
 // The application's keys on a panel of type 13; the gaps are keys of the keypad's own dialog.
@@ -175,11 +174,17 @@ void comeToFront(QDialog *keypad)
 
 bool coverView(QDialog *keypad)
 {
+    comeToFront(keypad);
     const QGraphicsView *view = HMIDeviceInfo::graphicsView();
     if (!view)
         return false;
     keypad->setGeometry(mappedToGlobal(view->viewport(), view->viewport()->geometry()));
     return true;
+}
+
+bool isPanelType13()
+{
+    return HMIDeviceInfo::deviceType() == 13;
 }
 
 bool isConfirmKey(int key)
@@ -189,7 +194,7 @@ bool isConfirmKey(int key)
 
 bool closeForApplication(QDialog *keypad, int key)
 {
-    if (HMIDeviceInfo::deviceType() != handingOnType || !isApplicationKey(key))
+    if (!isPanelType13() || !isApplicationKey(key))
         return false;
     keypad->reject();
     return true;

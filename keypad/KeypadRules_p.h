@@ -49,10 +49,14 @@ QRect mappedToGlobal(const QWidget *widget, const QRect &rect);
 // window manager nothing else does.
 void comeToFront(QDialog *keypad);
 
-// Lays \a keypad over the registered view; false, leaving it where it is, when there is none. The
-// viewport's rectangle, which counts from the view's corner, is mapped from the viewport's corner:
-// a frame of the view shifts it once more. Existing screens are laid out for that.
+// Brings \a keypad to the front and lays it over the registered view; false, leaving it where it
+// is, when there is none. The viewport's rectangle, which counts from the view's corner, is mapped
+// from the viewport's corner: a frame of the view shifts it once more. Existing screens are laid
+// out for that.
 bool coverView(QDialog *keypad);
+
+// Whether the panel is of the one type that has a dark scheme and hands hard keys on.
+bool isPanelType13();
 
 // Whether hard key \a key, a Qt::Key value, confirms an entry.
 bool isConfirmKey(int key);

@@ -144,7 +144,6 @@ void NumericKeypad::keyPressEvent(QKeyEvent *event)
 
 void NumericKeypad::showEvent(QShowEvent *event)
 {
-    Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
 }

@@ -68,8 +68,9 @@ public:
     void setDecimalPointEnabled(bool enabled);
 
     /*!
-     * The longest text, in characters, that can be entered; until the next setObject(). The sign
-     * counts, and one put in front of a text of that length cuts its last character off.
+     * The longest text, in characters (0 to 32767), that can be entered; until the next
+     * setObject(). A longer text that is being edited is cut at once. The sign counts, and one put
+     * in front of a text of that length cuts its last character off.
      */
     void setMaxLength(int length);
 
@@ -90,7 +91,10 @@ public:
      */
     void setLimitToolTip(const QString &text);
 
-    /*! Replaces the text being edited and selects all of it, so that the first key replaces it. */
+    /*!
+     * Replaces the text being edited and selects all of it, so that the first key replaces it. A
+     * text beyond the maximum length is cut; a validator is not asked.
+     */
     void setText(const QString &text);
 
 Q_SIGNALS:

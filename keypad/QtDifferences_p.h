@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QObject>
 #include <QString>
+#include <QWidget>
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 #include <QGuiApplication>
 #endif
@@ -55,7 +56,19 @@ inline bool windowsAreStacked()
     return true;
 #else
     const QString platform = QGuiApplication::platformName();
-    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
+    return platform != QLatin1String("offscreen") && !platform.startsWith(QLatin1String("minimal"))
+        && platform != QLatin1String("vkkhrdisplay");
+#endif
+}
+
+// A Qt for small systems may be built without accessibility.
+inline void setAccessibleName(QWidget *widget, const QString &name)
+{
+#ifdef QT_NO_ACCESSIBILITY
+    Q_UNUSED(widget);
+    Q_UNUSED(name);
+#else
+    widget->setAccessibleName(name);
 #endif
 }
 

@@ -68,6 +68,7 @@ vondKeypad *vondKeypad::instance()
 vondKeypad::vondKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
+    static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
     Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, keyCells, keyMembers());
 }
 
@@ -123,7 +124,6 @@ void vondKeypad::keyPressEvent(QKeyEvent *event)
 
 void vondKeypad::showEvent(QShowEvent *event)
 {
-    Keypad::comeToFront(this);
     if (Keypad::coverView(this))
         QDialog::showEvent(event);
 }

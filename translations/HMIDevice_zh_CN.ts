@@ -111,6 +111,14 @@
         <translation>退格</translation>
     </message>
     <message>
+        <source>Increase</source>
+        <translation>增大</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>减小</translation>
+    </message>
+    <message>
         <source>Previous page</source>
         <translation>上一页</translation>
     </message>

@@ -3,6 +3,8 @@
 // Linked into an example, works it as an operator does. HMI_EXAMPLE_STEPS says how, separated by
 // ";":
 //   tap NAME                      a click on the widget of that object name
+//   tap-cell NAME ROW,COLUMN      a double click into a cell of an item view
+//   expect-cell NAME ROW,COLUMN VALUE    what the cell shows then
 //   hard F1                       a hard key, one of F1 to F35
 //   expect NAME PROPERTY VALUE    what the widget has then
 //   expect-at NAME X,Y WxH        where it lies in the registered view
@@ -10,6 +12,7 @@
 
 #include <HMIDevice/HMIDeviceInfo.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QGraphicsView>
 #include <QStringList>
@@ -62,6 +65,28 @@ QString place(const QWidget *widget)
         .arg(widget->height());
 }
 
+// A finger meets the innermost part there, such as the line edit of a spin box.
+void tap(QWidget *widget)
+{
+    QWidget *inner = widget->childAt(widget->rect().center());
+    QTest::mouseClick(inner ? inner : widget, Qt::LeftButton);
+}
+
+QModelIndex cell(QWidget *widget, const QString &place)
+{
+    const QAbstractItemView *view = qobject_cast<QAbstractItemView *>(widget);
+    return view->model()->index(place.section(QLatin1Char(','), 0, 0).toInt(),
+                                place.section(QLatin1Char(','), 1, 1).toInt());
+}
+
+void tapCell(QWidget *widget, const QString &place)
+{
+    const QAbstractItemView *view = qobject_cast<QAbstractItemView *>(widget);
+    const QPoint spot = view->visualRect(cell(widget, place)).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), spot);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), spot);
+}
+
 class Operator : public QObject
 {
 public:
@@ -99,7 +124,12 @@ private:
     {
         const QString what = QStringList(step.mid(1, 2)).join(QLatin1String(" "));
         if (step.first() == QLatin1String("tap"))
-            QTest::mouseClick(widget, Qt::LeftButton);
+            tap(widget);
+        else if (step.first() == QLatin1String("tap-cell"))
+            tapCell(widget, step.at(2));
+        else if (step.first() == QLatin1String("expect-cell"))
+            expect(what, cell(widget, step.at(2)).data().toString(),
+                   QStringList(step.mid(3)).join(QLatin1String(" ")));
         else if (step.first() == QLatin1String("hard"))
             QTest::keyClick(widget, Qt::Key(Qt::Key_F1 + step.at(1).mid(1).toInt() - 1));
         else if (step.first() == QLatin1String("expect"))
