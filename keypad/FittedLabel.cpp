@@ -17,27 +17,53 @@ bool isRich(const QLabel *label)
         || (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(label->text()));
 }
 
-QRect textRect(const QLabel *label)
-{
-    const int margin = label->margin() + 1; // a pixel off whatever surrounds the text
-    return label->contentsRect().adjusted(margin, margin, -margin, -margin);
-}
-
 Qt::LayoutDirection textDirection(const QLabel *label)
 {
     return label->text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
 }
 
+Qt::Alignment visualAlignment(const QLabel *label)
+{
+    return QStyle::visualAlignment(textDirection(label), label->alignment());
+}
+
+// How far a label keeps its text off the side at which it is aligned.
+int indentOf(const QLabel *label)
+{
+    if (label->indent() >= 0 || label->frameWidth() == 0)
+        return qMax(0, label->indent());
+    const int letterWidth = sizeOf(QLatin1String("x"), label->font(), 0).width();
+    return qMax(0, letterWidth / 2 - label->margin());
+}
+
+// Where a label draws its text.
+QRect textRect(const QLabel *label)
+{
+    const int margin = label->margin();
+    const int indent = indentOf(label);
+    const Qt::Alignment alignment = visualAlignment(label);
+    return label->contentsRect().adjusted(margin + (alignment & Qt::AlignLeft ? indent : 0),
+                                          margin + (alignment & Qt::AlignTop ? indent : 0),
+                                          -margin - (alignment & Qt::AlignRight ? indent : 0),
+                                          -margin - (alignment & Qt::AlignBottom ? indent : 0));
+}
+
+// A pixel off whatever surrounds the text.
+QSize roomOf(const QLabel *label)
+{
+    return textRect(label).size() - QSize(2, 2);
+}
+
 void paintPlainText(QPainter *painter, const QLabel *label)
 {
-    const QRect rect = textRect(label);
-    const QFont font = fittedFont(label->font(), label->text(), 0, rect.size());
+    const QSize room = roomOf(label);
+    const QFont font = fittedFont(label->font(), label->text(), 0, room);
     painter->setFont(font);
-    const Qt::Alignment alignment =
-        QStyle::visualAlignment(textDirection(label), label->alignment());
-    label->style()->drawItemText(
-        painter, rect, int(alignment), label->palette(), label->isEnabled(),
-        fittedText(font, label->text(), 0, rect.size()), label->foregroundRole());
+    const int direction = textDirection(label) == Qt::LeftToRight ? Qt::TextForceLeftToRight
+                                                                  : Qt::TextForceRightToLeft;
+    label->style()->drawItemText(painter, textRect(label), int(visualAlignment(label)) | direction,
+                                 label->palette(), label->isEnabled(),
+                                 fittedText(font, label->text(), 0, room), label->foregroundRole());
 }
 
 void setUpDocument(QTextDocument *document, const QLabel *label)
@@ -56,17 +82,15 @@ void paintRichText(QPainter *painter, const QLabel *label)
 {
     QTextDocument document;
     setUpDocument(&document, label);
-    const QRect room = textRect(label);
-    QSizeF size = document.size();
+    const QSize room = roomOf(label);
+    const QSizeF size = document.size();
     const qreal scale =
         qMin(qreal(1), qMin(room.width() / size.width(), room.height() / size.height()));
     const QRect rect = QStyle::alignedRect(textDirection(label), label->alignment(),
-                                           (size * scale).toSize(), room);
+                                           (size * scale).toSize(), textRect(label));
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette = label->palette();
-    const QPalette::ColorGroup group = label->isEnabled() ? QPalette::Active : QPalette::Disabled;
-    context.palette.setColor(QPalette::Text,
-                             label->palette().color(group, label->foregroundRole()));
+    context.palette.setColor(QPalette::Text, label->palette().color(label->foregroundRole()));
     painter->translate(rect.topLeft());
     painter->scale(scale, scale);
     document.documentLayout()->draw(painter, context);

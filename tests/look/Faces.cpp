@@ -94,6 +94,22 @@ bool FaceStage::showNextFace()
     return false;
 }
 
+void FaceStage::fillLabels(const QString &text)
+{
+    while (showNextFace()) { } // Chinese is the last one
+    const QList<QLabel *> labels = dialog()->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->text().isEmpty() && label->parentWidget()->isVisible()) {
+            label->setText(text);
+            label->show();
+        }
+    }
+    QApplication::processEvents();
+    for (QLabel *label : labels)
+        label->updateGeometry(); // once more with the style sheet that it took when it was shown
+    QApplication::processEvents();
+}
+
 QList<QToolButton *> FaceStage::shownKeys()
 {
     return shownTexts<QToolButton>(dialog());

@@ -21,6 +21,10 @@ public:
     // Shows the next face of the keypad; false after the last one.
     bool showNextFace();
 
+    // Shows \a text on the line for limits, or as pinyin and candidates, where the keypad has
+    // these.
+    void fillLabels(const QString &text);
+
     // What can be seen of the keypad: keys that have a label, and labels that have a text.
     QList<QToolButton *> shownKeys();
     QList<QLabel *> shownLabels();

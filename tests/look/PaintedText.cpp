@@ -22,6 +22,12 @@ QRect within(const QRect &rect, const QMargins &around)
     return rect.adjusted(around.left(), around.top(), -around.right(), -around.bottom());
 }
 
+QMargins sum(const QMargins &a, const QMargins &b)
+{
+    return QMargins(a.left() + b.left(), a.top() + b.top(), a.right() + b.right(),
+                    a.bottom() + b.bottom());
+}
+
 // The inside without the pixel that keeps a smaller text off the border.
 QSize roomIn(const QWidget *widget, const QMargins &around)
 {
@@ -78,6 +84,32 @@ QSize unclippedInkSize(Widget *twin)
     return inkOf(twin).rect.size();
 }
 
+// The indent that a label has inside a frame comes from its font. Makes it one that stays while the
+// font gets smaller.
+void fixIndent(QLabel *twin)
+{
+    if (twin->indent() >= 0 || twin->frameWidth() == 0)
+        return;
+    const int plenty = 100;
+    const QSize size = twin->size();
+    twin->resize(size + 2 * twin->sizeHint() + QSize(plenty, plenty));
+    const QRect indented = inkOf(twin).rect;
+    twin->setIndent(plenty);
+    const QPoint difference = inkOf(twin).rect.topLeft() - indented.topLeft();
+    twin->setIndent(plenty - difference.manhattanLength());
+    twin->resize(size);
+}
+
+// What the indent of \a twin, set by a number, takes of each side.
+QMargins indentOf(const QLabel *twin)
+{
+    const int indent = qMax(0, twin->indent());
+    const Qt::Alignment alignment = twin->alignment();
+    return QMargins(alignment & Qt::AlignLeft ? indent : 0, alignment & Qt::AlignTop ? indent : 0,
+                    alignment & Qt::AlignRight ? indent : 0,
+                    alignment & Qt::AlignBottom ? indent : 0);
+}
+
 template <class Widget>
 QString complaintAboutInk(Widget *widget, Widget *twin, const QMargins &around)
 {
@@ -89,7 +121,7 @@ QString complaintAboutInk(Widget *widget, Widget *twin, const QMargins &around)
         return u("reaches into its border");
     if (ink.picture != twinsInk.picture)
         return u("is drawn otherwise than by Qt at %1 pixels").arg(twin->font().pixelSize());
-    if ((ink.rect.center() - twinsInk.rect.center()).manhattanLength() > 2)
+    if (ink.rect != twinsInk.rect)
         return u("is out of place");
     if (ink.rect.size() != unclippedInkSize(twin))
         return u("is cut");
@@ -127,8 +159,9 @@ QString complaintAboutSmallRichText(QLabel *label, QLabel *twin, const QMargins 
 {
     const QRect inside = within(label->rect(), around);
     const Ink ink = inkOf(label);
-    const QSize needed = within(QRect(QPoint(), twin->sizeHint()), around).size();
-    const QSize room = roomIn(label, around);
+    const QMargins everythingAround = sum(around, indentOf(twin));
+    const QSize needed = within(QRect(QPoint(), twin->sizeHint()), everythingAround).size();
+    const QSize room = roomIn(label, everythingAround);
     const double scale =
         qMin(double(room.width()) / needed.width(), double(room.height()) / needed.height());
     twin->resize(twin->sizeHint());
@@ -151,9 +184,10 @@ QString complaintAbout(QLabel *label, QLabel *twin, const QMargins &around)
 {
     if (fits(twin->sizeHint(), label->size()))
         return complaintAboutFittingText(label, twin, around);
+    fixIndent(twin);
     if (isRich(label))
         return complaintAboutSmallRichText(label, twin, around);
-    shrink(twin, 0, roomIn(label, around));
+    shrink(twin, 0, roomIn(label, sum(around, indentOf(twin))));
     return complaintAboutInk(label, twin, around);
 }
 

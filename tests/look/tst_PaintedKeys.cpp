@@ -47,7 +47,7 @@ void tst_PaintedKeys::everyKeyShowsItsLabel()
 
 void tst_PaintedKeys::everyStateShows_data()
 {
-    addSheetRows("QToolButton");
+    addSheetRows("QToolButton", stylesFrame(), SidesStay);
 }
 
 void tst_PaintedKeys::everyStateShows()
@@ -63,8 +63,6 @@ void tst_PaintedKeys::everyStateShows()
         QCOMPARE(complaintAbout(key, around), QString());
         key->setDown(false);
         key->setEnabled(false);
-        QCOMPARE(complaintAbout(key, around), QString());
-        key->setLayoutDirection(Qt::RightToLeft);
         QCOMPARE(complaintAbout(key, around), QString());
     }
 }
