@@ -25,15 +25,20 @@ public:
 
     /*! Chooses the keypad of \a field. */
     void setKind(QWidget *field, Kind kind);
+    void resetKind(QWidget *field);
 
     /*! The keypad that a tap on \a field opens. */
     Kind kind(QWidget *field) const;
 
+    void setLimits(QWidget *field, const QString &text);
+
+    void setReturnPressed(QWidget *field, bool on);
+
     /*! Opens the keypad of \a field as a tap does; true when the field was written. */
     bool edit(QWidget *field);
 
-private:
-    QWidget *m_window;
+Q_SIGNALS:
+    void hardKeyPressed(int key);
 };
 
 #endif

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "Operator.h"
 #include "support/Text.h"
 
 #include <HMIDevice/FieldKeypads.h>
 
+#include "support/KeypadDriver.h"
+#include <HMIDevice/KeyBoardLineEdit.h>
+#include <QLabel>
+#include <QSignalSpy>
 #include <QSpinBox>
+#include <QVBoxLayout>
 #include <QtTest>
 
 class tst_FieldKeypads : public QObject
@@ -11,15 +17,48 @@ class tst_FieldKeypads : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keepsTheKindThatWasSet();
+    void spin();
 };
 
-void tst_FieldKeypads::keepsTheKindThatWasSet()
+void tst_FieldKeypads::spin()
 {
+    QWidget window;
+    window.setGeometry(100, 80, 640, 480);
+    QVBoxLayout layout(&window);
     QSpinBox box;
-    FieldKeypads keypads(&box);
-    keypads.setKind(&box, FieldKeypads::Axis);
-    QCOMPARE(keypads.kind(&box), FieldKeypads::Axis);
+    box.setRange(0, 6000);
+    box.setSuffix(u(" rpm"));
+    QSpinBox other;
+    layout.addWidget(&box);
+    layout.addWidget(&other);
+    FieldKeypads keypads(&window);
+    Operator::show(&window);
+    QSignalSpy finished(&box, SIGNAL(editingFinished()));
+    QSignalSpy changed(&box, SIGNAL(valueChanged(int)));
+    Operator::withKeypad([&] { Operator::tap(box.findChild<QLineEdit *>()); },
+                         QList<Operator::Action>() <<
+                             [&] {
+                                 qDebug() << Operator::keypad()->geometry() << window.geometry()
+                                          << window.frameGeometry();
+                                 qDebug()
+                                     << tipLabel(Operator::keypad())->text()
+                                     << editLine(Operator::keypad())->text()
+                                     << QApplication::activeWindow() << QApplication::focusWidget();
+                                 Operator::tapKeys("7 0 0 0 Enter");
+                             } <<
+                             [&] {
+                                 qDebug() << editLine(Operator::keypad())->text()
+                                          << finished.count() << changed.count();
+                                 Operator::pressHardKey("1");
+                                 Operator::pressHardKey("2");
+                                 qDebug() << editLine(Operator::keypad())->text();
+                                 Operator::pressHardKey("Return");
+                             });
+    qDebug() << box.value() << box.text() << finished.count() << changed.count()
+             << QApplication::activeWindow() << QApplication::focusWidget();
+    qDebug() << Operator::waitUntil([&] { return QApplication::focusWidget(); });
+    qDebug() << box.value() << box.text() << finished.count() << changed.count()
+             << QApplication::activeWindow() << QApplication::focusWidget();
 }
 
 QTEST_MAIN(tst_FieldKeypads)

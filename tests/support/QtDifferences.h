@@ -2,6 +2,7 @@
 #ifndef TEST_QTDIFFERENCES_H
 #define TEST_QTDIFFERENCES_H
 
+#include <QKeySequence>
 #include <QMetaMethod>
 #include <QObject>
 #include <QString>
@@ -69,6 +70,16 @@ inline QByteArray methodSignature(const QMetaMethod &method)
     return method.signature();
 #else
     return method.methodSignature();
+#endif
+}
+
+// The first key of \a sequence, without modifiers.
+inline Qt::Key keyOf(const QKeySequence &sequence)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return Qt::Key(sequence[0] & ~Qt::KeyboardModifierMask);
+#else
+    return sequence[0].key();
 #endif
 }
 
