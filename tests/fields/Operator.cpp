@@ -3,6 +3,7 @@
 
 #include "support/KeypadDriver.h"
 
+#include <QAbstractNativeEventFilter>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeySequence>
@@ -18,30 +19,54 @@ namespace {
 
 const int longestWait = 20000; // milliseconds, after which what is awaited will not come
 
-// Counts what the windows of the program hear of the mouse.
-class MouseCount : public QObject
+// Counts how often the windows of the program hear that the mouse button is released.
+class ReleaseCount : public QObject
 {
 public:
-    MouseCount()
+    ReleaseCount()
         : releases(0)
-        , moves(0)
     {
         qApp->installEventFilter(this);
     }
 
     int releases;
-    int moves;
 
 protected:
     bool eventFilter(QObject *receiver, QEvent *event) override
     {
         if (receiver->isWindowType() && event->type() == QEvent::MouseButtonRelease)
             ++releases;
-        if (receiver->isWindowType() && event->type() == QEvent::MouseMove)
-            ++moves;
         return false;
     }
 };
+
+// Counts how often the display says that a key is released. A filter of Qt's events would not see
+// those that a keypad keeps to itself.
+class KeyReleaseCount : public QAbstractNativeEventFilter
+{
+public:
+    KeyReleaseCount()
+        : releases(0)
+    {
+        qApp->installNativeEventFilter(this);
+    }
+
+    int releases;
+
+    bool nativeEventFilter(const QByteArray &, void *message, HMI_NATIVE_RESULT *) override
+    {
+        const int keyRelease = 3; // of the X protocol
+        if ((*static_cast<const uchar *>(message) & 0x7f) == keyRelease)
+            ++releases;
+        return false;
+    }
+};
+
+// Whether the windowing system has done with \a window what it does when it is shown.
+bool isSettled(const QWidget *window)
+{
+    return window->windowHandle()->isExposed() && window->isActiveWindow();
+}
 
 // Does one entry each time that a keypad opens, in the keypad's own event loop.
 class AtEachOpening : public QObject
@@ -62,7 +87,7 @@ protected:
     void timerEvent(QTimerEvent *) override
     {
         const QDialog *open = keypad();
-        if (!open || !open->isActiveWindow() || !open->windowHandle()->isExposed() || m_isBusy)
+        if (!open || !isSettled(open) || m_isBusy)
             return;
         m_isBusy = true;
         if (++m_openings <= m_entries.size())
@@ -93,29 +118,25 @@ void xdotool(const QStringList &arguments)
     QCOMPARE(QProcess::execute(u("xdotool"), arguments), 0);
 }
 
-QStringList moveTo(const QPoint &place)
+// Where a window is only the display knows: Qt may be wrong when a window manager has taken it.
+void clickDisplay(const QWidget *widget, const QPoint &place, int times)
 {
-    return QStringList() << u("mousemove") << QString::number(place.x())
-                         << QString::number(place.y());
-}
-
-void clickDisplay(const QPoint &place, int times)
-{
-    MouseCount count;
-    QStringList arguments = moveTo(place);
-    arguments << u("click") << u("--repeat") << QString::number(times) << u("--delay") << u("40")
-              << u("1");
-    CHECKED(xdotool(arguments));
+    const QWidget *window = widget->window();
+    const QPoint inWindow = widget->mapTo(window, place);
+    ReleaseCount count;
+    CHECKED(xdotool(QStringList() << u("mousemove") << u("--window")
+                                  << QString::number(window->winId())
+                                  << QString::number(inWindow.x()) << QString::number(inWindow.y())
+                                  << u("click") << u("--repeat") << QString::number(times)
+                                  << u("--delay") << u("40") << u("1")));
     QVERIFY(waitUntil([&] { return count.releases >= times; }));
 }
 
-// The display hands on what it got in order: when the mouse has moved, the key has come.
 void pressOnDisplay(const char *name)
 {
-    MouseCount count;
-    CHECKED(xdotool(QStringList() << u("key") << u(name) << u("mousemove_relative") << u("1")
-                                  << u("1")));
-    QVERIFY(waitUntil([&] { return count.moves > 0; }));
+    KeyReleaseCount count;
+    CHECKED(xdotool(QStringList() << u("key") << u(name)));
+    QVERIFY(waitUntil([&] { return count.releases > 0; }));
 }
 
 void clickWindow(QWidget *widget, const QPoint &place)
@@ -159,14 +180,14 @@ void show(QWidget *window)
     window->show();
     QVERIFY(QTest::qWaitForWindowExposed(window));
     window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window));
+    QVERIFY(waitUntil([=] { return isSettled(window); }));
 }
 
 void tap(QWidget *widget, const QPoint &place)
 {
     const QPoint inside = placeIn(widget, place);
     if (hasDisplay())
-        clickDisplay(widget->mapToGlobal(inside), 1);
+        clickDisplay(widget, inside, 1);
     else
         clickWindow(widget, inside);
     QCoreApplication::processEvents();
@@ -176,7 +197,7 @@ void doubleTap(QWidget *widget, const QPoint &place)
 {
     const QPoint inside = placeIn(widget, place);
     if (hasDisplay())
-        clickDisplay(widget->mapToGlobal(inside), 2);
+        clickDisplay(widget, inside, 2);
     else
         QTest::mouseDClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                            widget->mapTo(widget->window(), inside));

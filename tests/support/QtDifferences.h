@@ -27,6 +27,13 @@
 #define HMI_SKIP(reason) QSKIP(reason)
 #endif
 
+// The result that a filter of the windowing system's events may give.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#define HMI_NATIVE_RESULT long
+#else
+#define HMI_NATIVE_RESULT qintptr
+#endif
+
 namespace QtDifferences {
 
 // A function that is called with each message, and how to make it the one that is called.
