@@ -19,6 +19,7 @@
 #include <QTimerEvent>
 #include <QVariant>
 #include <QWidget>
+#include <QWindow>
 #include <QtTest>
 
 #include <cstdio>
@@ -83,8 +84,8 @@ void tapCell(QWidget *widget, const QString &place)
 {
     const QAbstractItemView *view = qobject_cast<QAbstractItemView *>(widget);
     const QPoint spot = view->visualRect(cell(widget, place)).center();
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), spot);
-    QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(), spot);
+    QTest::mouseDClick(view->window()->windowHandle(), Qt::LeftButton, Qt::KeyboardModifiers(),
+                       view->viewport()->mapTo(view->window(), spot));
 }
 
 class Operator : public QObject
