@@ -9,18 +9,6 @@ namespace Fields {
 
 namespace {
 
-const QMouseEvent *mouseEvent(const QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseButtonRelease:
-        return static_cast<const QMouseEvent *>(event);
-    default:
-        return nullptr;
-    }
-}
-
 bool isInside(QObject *receiver, const QWidget *window)
 {
     return receiver->isWidgetType() && static_cast<QWidget *>(receiver)->window() == window;
@@ -56,7 +44,7 @@ bool KeypadShield::eventFilter(QObject *receiver, QEvent *event)
     if (m_keys.filter(receiver, event) || m_focus.filter(receiver, event))
         return true;
     if (m_keypad) {
-        const QMouseEvent *mouse = mouseEvent(event);
+        const QMouseEvent *mouse = asClick(event);
         return mouse && isInside(receiver, m_keypad) && m_taps.filter(mouse);
     }
     if (!m_keys.isBusy() && !m_focus.isBusy())

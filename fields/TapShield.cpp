@@ -13,6 +13,18 @@ const int doubleTapDistance = 32; // pixels, what a finger does not feel
 
 } // namespace
 
+const QMouseEvent *asClick(const QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+        return static_cast<const QMouseEvent *>(event);
+    default:
+        return nullptr;
+    }
+}
+
 Tap::Tap()
     : time(0)
 {

@@ -10,6 +10,9 @@ class QObject;
 
 namespace Fields {
 
+// \a event, if a mouse button goes down or up by it, or null.
+const QMouseEvent *asClick(const QEvent *event);
+
 // A press of the left mouse button, or of a finger.
 struct Tap
 {

@@ -40,6 +40,7 @@ private:
     void release(QWidget *widget, const QMouseEvent *event);
 
     Tap m_lastTap;
+    bool m_isButtonDown; // as the windowing system has it
     bool m_isDoubleTap;
     QPointer<QWidget> m_pressed; // the widget under the finger
     QPointer<QWidget> m_tapped;  // the field to be announced

@@ -6,6 +6,7 @@
 
 #include "support/KeypadDriver.h"
 #include <HMIDevice/KeyBoardLineEdit.h>
+#include <QDateEdit>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -18,6 +19,7 @@ class tst_FieldKeypads : public QObject
 
 private Q_SLOTS:
     void spin();
+    void date();
 };
 
 void tst_FieldKeypads::spin()
@@ -59,6 +61,27 @@ void tst_FieldKeypads::spin()
     qDebug() << Operator::waitUntil([&] { return QApplication::focusWidget(); });
     qDebug() << box.value() << box.text() << finished.count() << changed.count()
              << QApplication::activeWindow() << QApplication::focusWidget();
+}
+
+void tst_FieldKeypads::date()
+{
+    QWidget window;
+    window.setGeometry(100, 80, 640, 480);
+    QVBoxLayout layout(&window);
+    QDateEdit box(QDate(2024, 2, 29));
+    layout.addWidget(&box);
+    FieldKeypads keypads(&window);
+    Operator::show(&window);
+    QSignalSpy finished(&box, SIGNAL(editingFinished()));
+    QSignalSpy changed(&box, SIGNAL(dateChanged(QDate)));
+    Operator::withKeypad([&] { Operator::tap(box.findChild<QLineEdit *>()); },
+                         QList<Operator::Action>() <<
+                             [&] {
+                                 qDebug() << QApplication::focusWidget()
+                                          << Operator::keypad()->focusWidget();
+                                 Operator::tapKeys("+ Ok");
+                             });
+    qDebug() << box.text() << finished.count() << changed.count();
 }
 
 QTEST_MAIN(tst_FieldKeypads)
