@@ -27,7 +27,8 @@
 
 namespace {
 
-const int mostTurns = 5000; // of the event loop, until what a step needs has come up
+const int mostTurns = 5000;          // of the event loop, until what a step needs has come up
+const int turnsToBecomeActive = 100; // after which a dialog will not
 
 QWidget *shown(const QString &name)
 {
@@ -40,6 +41,12 @@ QWidget *shown(const QString &name)
         }
     }
     return nullptr;
+}
+
+bool isAwaiting()
+{
+    const QWidget *modal = QApplication::activeModalWidget();
+    return modal && !modal->isActiveWindow();
 }
 
 void fail(const QString &complaint)
@@ -105,7 +112,7 @@ protected:
         const QStringList step = m_steps.first().trimmed().split(QLatin1Char(' '));
         QWidget *widget = step.first() == QLatin1String("hard") ? QApplication::activeModalWidget()
                                                                 : shown(step.value(1));
-        if (!widget) {
+        if (!widget || (isAwaiting() && m_turns < turnsToBecomeActive)) {
             if (++m_turns == mostTurns)
                 fail(QLatin1String("no such widget: ") + m_steps.first());
             return;
