@@ -108,7 +108,8 @@ QSize plainSize(const QLabel *label)
 QSize boundedSize(const QLabel *label, QSize plain, int lines)
 {
     const int surrounds = label->height() - label->contentsRect().height();
-    const int most = lines * label->fontMetrics().height() + surrounds;
+    const int line = label->fontMetrics().height() + 1; // rich text rounds each line up
+    const int most = lines * line + surrounds;
     return QSize(plain.width(), qMin(plain.height(), most));
 }
 

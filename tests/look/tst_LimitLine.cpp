@@ -71,7 +71,7 @@ void tst_LimitLine::aStyleSheetsRoomIsAdded()
 {
     QFETCH(QMargins, around);
     const CurrentSheet sheet;
-    FaceStage stage(8, QSize(480, 272));
+    FaceStage stage(8, QSize(640, 480));
     for (const char *text : texts)
         CHECKED(showInFull(stage, text, around));
 }
