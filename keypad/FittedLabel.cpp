@@ -27,13 +27,18 @@ Qt::Alignment visualAlignment(const QLabel *label)
     return QStyle::visualAlignment(textDirection(label), label->alignment());
 }
 
+// What one letter needs, which may be more than the height of the font.
+QSize letterSize(const QLabel *label)
+{
+    return sizeOf(QLatin1String("x"), label->font(), 0);
+}
+
 // How far a label keeps its text off the side at which it is aligned.
 int indentOf(const QLabel *label)
 {
     if (label->indent() >= 0 || label->frameWidth() == 0)
         return qMax(0, label->indent());
-    const int letterWidth = sizeOf(QLatin1String("x"), label->font(), 0).width();
-    return qMax(0, letterWidth / 2 - label->margin());
+    return qMax(0, letterSize(label).width() / 2 - label->margin());
 }
 
 // Where a label draws its text.
@@ -108,8 +113,7 @@ QSize plainSize(const QLabel *label)
 QSize boundedSize(const QLabel *label, QSize plain, int lines)
 {
     const int surrounds = label->height() - label->contentsRect().height();
-    const int line = label->fontMetrics().height() + 1; // rich text rounds each line up
-    const int most = lines * line + surrounds;
+    const int most = lines * letterSize(label).height() + surrounds;
     return QSize(plain.width(), qMin(plain.height(), most));
 }
 
