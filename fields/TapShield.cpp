@@ -62,6 +62,7 @@ bool TapShield::filter(const QMouseEvent *event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         m_isSecondTap = m_isSecondTap || belongsToOpening(Tap(event));
+        m_isOpen = m_isSecondTap; // a tap elsewhere is a fresh start, also for this place
         return m_isSecondTap;
     case QEvent::MouseButtonRelease: {
         const bool wasSecondTap = m_isSecondTap;
