@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#ifndef FIELDWINDOW_H
+#define FIELDWINDOW_H
+
+#include <HMIDevice/FieldKeypads.h>
+
+#include <QLineEdit>
+#include <QLocale>
+#include <QPointer>
+#include <QStringList>
+#include <QVBoxLayout>
+#include <QWidget>
+
+// What a program hears from a field, in the order in which it hears it.
+class SignalLog : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Hears those of \a signatures, separated by blanks, that \a sender has.
+    void hear(QObject *sender, const char *signatures);
+
+    // The names of the signals that were sent, separated by blanks.
+    QString heard() const { return m_heard.join(QLatin1String(" ")); }
+
+private Q_SLOTS:
+    void note();
+
+private:
+    QStringList m_heard;
+};
+
+// A program's window, shown, with one field to work and another that may have the focus.
+class FieldWindow : public QWidget
+{
+public:
+    // Takes \a field, and hears those of \a signatures that it has.
+    explicit FieldWindow(QWidget *field, const char *signatures = "");
+
+    QPointer<QWidget> field;
+    QLineEdit otherField;
+    FieldKeypads keypads;
+    SignalLog log;
+
+private:
+    QVBoxLayout m_layout;
+};
+
+// The program's locale for as long as a test runs.
+class DefaultLocale
+{
+public:
+    explicit DefaultLocale(const QString &name) { QLocale::setDefault(QLocale(name)); }
+    ~DefaultLocale() { QLocale::setDefault(QLocale::c()); }
+
+private:
+    Q_DISABLE_COPY(DefaultLocale)
+};
+
+// The locales in which machines with these panels run.
+const QStringList &programLocales();
+
+#endif
