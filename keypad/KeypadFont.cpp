@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QFontInfo>
+#include <QLineEdit>
 #include <QList>
 #include <QStyle>
 
@@ -49,22 +50,35 @@ public:
     {
         const QList<QWidget *> parts = keypad->findChildren<QWidget *>();
         for (QWidget *part : parts) {
-            if (!qobject_cast<QAbstractSpinBox *>(part->parentWidget())) // it has its spin box's
-                part->setFont(font);
+            part->setFont(font);
+            if (qobject_cast<QAbstractSpinBox *>(part))
+                part->installEventFilter(this);
         }
         keypad->setFont(font); // last, so that nothing is left to be inherited
         keypad->installEventFilter(this);
     }
 
     // A font that a style sheet gives the dialog is for the dialog alone.
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *changed, QEvent *event) override
     {
-        if (event->type() == QEvent::FontChange && !isStyledBySheet(m_keypad))
+        if (event->type() != QEvent::FontChange)
+            return false;
+        if (changed != m_keypad)
+            handOn(static_cast<QWidget *>(changed));
+        else if (!isStyledBySheet(m_keypad))
             follow(m_keypad->font());
         return false;
     }
 
 private:
+    // The line inside \a spinBox has the font of that, wherever it comes from.
+    static void handOn(const QWidget *spinBox)
+    {
+        const QList<QLineEdit *> lines = spinBox->findChildren<QLineEdit *>();
+        for (QLineEdit *line : lines)
+            line->setFont(spinBox->font());
+    }
+
     // A part that was given a font of its own keeps it. Qt 5 has two ways to say the same family,
     // which only the fonts' descriptions make equal.
     void follow(const QFont &font)
