@@ -40,8 +40,10 @@ void SheetStage::setSheet(const QString &sheet)
         qApp->setStyleSheet(sheet);
     else if (m_place == OnWindow)
         m_window.setStyleSheet(sheet);
-    else
+    else if (m_place == OnView)
         m_view.setStyleSheet(sheet);
+    else
+        dialog()->setStyleSheet(sheet);
 }
 
 QWidgetList widgetsOf(QDialog *keypad)

@@ -6,7 +6,7 @@
 
 // A keypad in a window of an application that has a style sheet somewhere.
 
-enum SheetPlace { OnApplication, OnWindow, OnView };
+enum SheetPlace { OnApplication, OnWindow, OnView, OnKeypad };
 
 // When a sheet comes, told by what there is of the keypad.
 enum SheetTime { BeforeKeypad, BeforeShow, AfterShow };
@@ -15,10 +15,10 @@ enum SheetTime { BeforeKeypad, BeforeShow, AfterShow };
 template <class AddValues>
 void addSheetTimeRows(const char *name, const AddValues &addValues)
 {
-    const char *const places[] = { "application", "window", "view" };
+    const char *const places[] = { "application", "window", "view", "keypad" };
     const char *const times[] = { "before the keypad", "before show", "after show" };
-    for (int place = OnApplication; place <= OnView; ++place) {
-        for (int time = BeforeKeypad; time <= AfterShow; ++time) {
+    for (int place = OnApplication; place <= OnKeypad; ++place) {
+        for (int time = place == OnKeypad ? BeforeShow : BeforeKeypad; time <= AfterShow; ++time) {
             const QString row = QString::fromLatin1("%1, on the %2 %3")
                                     .arg(u(name), u(places[place]), u(times[time]));
             addValues(QTest::newRow(qPrintable(row)) << place << time);

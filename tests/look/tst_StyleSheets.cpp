@@ -35,6 +35,7 @@ private Q_SLOTS:
     void withoutFonts();
     void withAFont_data();
     void withAFont();
+    void withAFontForOneName();
 };
 
 void tst_StyleSheets::initTestCase_data()
@@ -86,30 +87,40 @@ void tst_StyleSheets::withAFont_data()
 {
     QTest::addColumn<int>("place");
     QTest::addColumn<int>("time");
-    QTest::addColumn<QString>("className");
-    const char *const classes[] = { "QToolButton", "QLabel",  "QLineEdit", "QAbstractSpinBox",
-                                    "QSpinBox",    "QDialog", "QWidget" };
-    for (const char *name : classes)
-        addSheetTimeRows(name, [name](QTestData &row) { row << u(name); });
+    QTest::addColumn<QString>("selector");
+    const char *const selectors[] = { "QToolButton", "QLabel",  "QLineEdit", "QAbstractSpinBox",
+                                      "QSpinBox",    "QDialog", "*" };
+    for (const char *selector : selectors)
+        addSheetTimeRows(selector, [selector](QTestData &row) { row << u(selector); });
 }
 
 void tst_StyleSheets::withAFont()
 {
-    QFETCH(QString, className);
+    QFETCH(QString, selector);
+    const QByteArray className = selector == u("*") ? QByteArray("QWidget") : selector.toLatin1();
     const QStringList expected = plainFonts();
-    SheetStage stage(className + u(" { font: italic 19px }"), currentPlace(), currentTime());
+    SheetStage stage(selector + u(" { font: italic 19px }"), currentPlace(), currentTime());
     const QWidgetList widgets = widgetsOf(stage.dialog());
     const QStringList fonts = fontsOf(stage.dialog());
     for (int i = 0; i < widgets.size(); ++i) {
         const QWidget *spinBox = qobject_cast<QAbstractSpinBox *>(widgets.at(i)->parentWidget());
         const QWidget *named = spinBox ? spinBox : widgets.at(i); // the line inside follows
-        if (named->inherits(className.toLatin1().constData()))
+        if (named->inherits(className.constData()))
             QCOMPARE(widgets.at(i)->font().pixelSize(), sheetPixels);
         else
             QCOMPARE(fonts.at(i), expected.at(i));
     }
     stage.removeSheet();
     QCOMPARE(fontsOf(stage.dialog()), expected);
+}
+
+void tst_StyleSheets::withAFontForOneName()
+{
+    SheetStage stage(u("#enterKey { font-size: 19px }"), OnApplication, BeforeKeypad);
+    const QWidgetList widgets = widgetsOf(stage.dialog());
+    const QWidget *enter = key(stage.dialog(), u(currentKind().confirmLabel));
+    for (int i = 0; i < widgets.size(); ++i)
+        QCOMPARE(widgets.at(i)->font().pixelSize() == sheetPixels, widgets.at(i) == enter);
 }
 
 QTEST_MAIN(tst_StyleSheets)
