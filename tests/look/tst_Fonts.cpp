@@ -11,6 +11,7 @@ namespace {
 QFont oddFont()
 {
     QFont font(u("DejaVu Sans Mono"), 40, QFont::Bold, true);
+    font.setStyleName(u("Bold Oblique"));
     font.setUnderline(true);
     font.setOverline(true);
     font.setStrikeOut(true);
