@@ -38,6 +38,13 @@ FieldWindow::FieldWindow(QWidget *fieldToWork, const char *signatures)
     Operator::show(this);
 }
 
+void typeKeys(const char *names)
+{
+    const QStringList list = labelList(names);
+    for (const QString &name : list)
+        CHECKED(Operator::pressHardKey(name.toLatin1().constData()));
+}
+
 const QStringList &programLocales()
 {
     static const QStringList names = labelList("C de_DE zh_CN");

@@ -46,6 +46,9 @@ private:
     QVBoxLayout m_layout;
 };
 
+// Presses hard keys one after the other: names separated by blanks.
+void typeKeys(const char *names);
+
 // The program's locale for as long as a test runs.
 class DefaultLocale
 {

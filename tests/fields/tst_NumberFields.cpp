@@ -119,13 +119,6 @@ void enter(FieldWindow *window, const NumberRow &row)
     QVERIFY(window->field->hasFocus());
 }
 
-void typeKeys(const char *names)
-{
-    const QStringList list = labelList(names);
-    for (const QString &name : list)
-        CHECKED(Operator::pressHardKey(name.toLatin1().constData()));
-}
-
 } // namespace
 
 class tst_NumberFields : public QObject
