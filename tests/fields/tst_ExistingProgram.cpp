@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "MachineProgram.h"
 #include "Operator.h"
+#include "WhileModal.h"
 #include "support/KeypadDriver.h"
 
 #include <HMIDevice/FieldKeypads.h>
@@ -12,10 +13,8 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
-#include <QWindow>
 
 // A program that exists gets its keypads by one line, and hears of its fields what it always heard.
 
@@ -131,44 +130,6 @@ void useField(QWidget *field, const FieldRow &row)
     QCOMPARE(lineEditOf(field)->text(), u(row.shown));
     QCOMPARE(heard.changes(), 1);
     QCOMPARE(heard.finishes(), 1);
-}
-
-// Does \a action while a modal dialog of the program is open, and closes the dialog.
-class WhileModal : public QObject
-{
-public:
-    explicit WhileModal(const std::function<void(QWidget *dialog)> &action)
-        : m_action(action)
-        , m_timer(startTimer(0))
-    {
-    }
-
-    bool isDone() const { return m_timer == 0; }
-
-protected:
-    void timerEvent(QTimerEvent *) override
-    {
-        SettingsDialog *dialog = qobject_cast<SettingsDialog *>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isActiveWindow() || !dialog->windowHandle()->isExposed())
-            return;
-        killTimer(m_timer);
-        m_timer = 0;
-        m_action(dialog);
-        dialog->reject();
-    }
-
-private:
-    const std::function<void(QWidget *)> m_action;
-    int m_timer;
-};
-
-// Brings \a field to the front by a tap on the tab of its page.
-void tapTabOf(const QWidget *field)
-{
-    QTabWidget *tabs = field->window()->findChild<QTabWidget *>();
-    const int page = tabs->indexOf(field->parentWidget());
-    Operator::tap(tabs->tabBar(), tabs->tabBar()->tabRect(page).center());
-    QCOMPARE(tabs->currentIndex(), page);
 }
 
 // The program, and the one line that it was given.
