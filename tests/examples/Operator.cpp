@@ -98,8 +98,9 @@ void tapCell(QWidget *widget, const QString &place)
 class Operator : public QObject
 {
 public:
-    Operator()
-        : m_steps(QString::fromLocal8Bit(qgetenv("HMI_EXAMPLE_STEPS")).split(QLatin1Char(';')))
+    explicit Operator(QObject *parent)
+        : QObject(parent)
+        , m_steps(QString::fromLocal8Bit(qgetenv("HMI_EXAMPLE_STEPS")).split(QLatin1Char(';')))
         , m_turns(0)
     {
         startTimer(1);
@@ -155,7 +156,7 @@ private:
 
 void start()
 {
-    new Operator;
+    new Operator(QCoreApplication::instance());
 }
 
 } // namespace
