@@ -41,6 +41,20 @@ void adjust(DateTimeKeypad *keypad, const Entry &)
         field->setEnabled(true);
 }
 
+void start(QDialog *)
+{
+}
+
+// With the first of its fields, not with the one that was left last.
+void start(DateTimeKeypad *keypad)
+{
+    const QList<QSpinBox *> fields = keypad->findChildren<QSpinBox *>();
+    for (int i = int(fields.size()) - 1; i >= 0; --i) {
+        if (fields.at(i)->isEnabled())
+            fields.at(i)->setFocus();
+    }
+}
+
 // What is done with a keypad of each class.
 template <class Keypad>
 struct Of
@@ -56,6 +70,7 @@ struct Of
         keypad->setValidator(entry.validator);
         keypad->setPasswordEchoMode(entry.masked);
         keypad->setText(entry.text);
+        start(keypad);
     }
 
     // Leaves nothing of this field for the next, and nothing that will be destroyed.

@@ -39,6 +39,7 @@ LimitLine::LimitLine(QDialog *keypad, const QString &text)
     if (!keypad || text.isEmpty())
         return;
     m_label = new QLabel(text, keypad);
+    m_label->setObjectName(QLatin1String("limitLabel")); // as in the other keypads
     m_label->setTextFormat(Qt::PlainText);
     m_label->setFont(
         fittingFont(keypad->font(), text, HMIDeviceInfo::graphicsView()->viewport()->width()));

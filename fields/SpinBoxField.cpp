@@ -184,13 +184,15 @@ private:
 
     QString limits() const
     {
-        const Value least = m_box->minimum();
-        const Value most = m_box->maximum();
-        if (!m_base)
-            return QString();
-        return rangeText(isUnlimited(least) ? QString() : numberText(m_box, least),
-                         isUnlimited(most) ? QString() : numberText(m_box, most), m_box->prefix(),
+        return rangeText(limit(m_box->minimum()), limit(m_box->maximum()), m_box->prefix(),
                          m_box->suffix());
+    }
+
+    QString limit(Value value) const
+    {
+        if (isUnlimited(value))
+            return QString();
+        return m_base ? numberText(m_box, value) : ownText(m_box.data(), value);
     }
 
     QPointer<Box> m_box;

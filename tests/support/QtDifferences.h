@@ -6,6 +6,7 @@
 #include <QMetaMethod>
 #include <QObject>
 #include <QString>
+#include <QVariant>
 #include <QtTest>
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #include <QTextCodec>
@@ -77,6 +78,16 @@ inline QByteArray methodSignature(const QMetaMethod &method)
     return method.signature();
 #else
     return method.methodSignature();
+#endif
+}
+
+// The value of the type of that number at \a data.
+inline QVariant variantOf(int type, const void *data)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QVariant(type, data);
+#else
+    return QVariant(QMetaType(type), data);
 #endif
 }
 

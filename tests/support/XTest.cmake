@@ -1,14 +1,19 @@
 # SPDX-License-Identifier: MIT
 
-# hmi_add_x_test(<name> <sources>...): a QtTest program that is clicked with a real pointer. It runs
-# twice on an X server of its own: as on a panel, without a window manager, and with one.
-function(hmi_add_x_test name)
+# hmi_run_on_x_server(<name> <test>): runs the program of that name as tests, twice on an X server of
+# its own: as on a panel, without a window manager, and with one.
+function(hmi_run_on_x_server name test)
     set(run ${PROJECT_SOURCE_DIR}/tests/support/with-x-server)
     set(program $<TARGET_FILE:${name}>)
+    add_test(NAME ${test} COMMAND ${run} ${program})
+    add_test(NAME ${test}_managed COMMAND ${run} --window-manager ${program})
+    hmi_set_test_surroundings(${test} ${test}_managed)
+    set_tests_properties(${test} ${test}_managed PROPERTIES SKIP_RETURN_CODE 77)
+endfunction()
+
+# hmi_add_x_test(<name> <sources>...): a QtTest program that is clicked with a real pointer.
+function(hmi_add_x_test name)
     add_executable(${name} ${ARGN})
     target_link_libraries(${name} PRIVATE hmi_test_support)
-    add_test(NAME ${name} COMMAND ${run} ${program})
-    add_test(NAME ${name}_managed COMMAND ${run} --window-manager ${program})
-    hmi_set_test_surroundings(${name} ${name}_managed)
-    set_tests_properties(${name} ${name}_managed PROPERTIES SKIP_RETURN_CODE 77)
+    hmi_run_on_x_server(${name} ${name})
 endfunction()
