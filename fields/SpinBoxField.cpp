@@ -132,7 +132,7 @@ public:
 
     Outcome write(const QString &text) override
     {
-        Value value;
+        Value value = Value();
         if (!accept(text, &value))
             return Refused;
         if (m_box->value() != value || shownValue() != value)
