@@ -9,8 +9,20 @@ const QSize panelSize(640, 480);
 
 } // namespace
 
-SheetStage::SheetStage(const QString &sheet, SheetPlace place, SheetTime time)
-    : m_view(8, panelSize, PanelView::Frameless)
+SheetPlace currentPlace()
+{
+    QFETCH(int, place);
+    return SheetPlace(place);
+}
+
+SheetTime currentTime()
+{
+    QFETCH(int, time);
+    return SheetTime(time);
+}
+
+SheetStage::SheetStage(const QString &sheet, SheetPlace place, SheetTime time, DeviceType type)
+    : m_view(type, panelSize, PanelView::Frameless)
     , m_place(place)
 {
     (new QVBoxLayout(&m_window))->addWidget(&m_view);

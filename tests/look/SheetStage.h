@@ -26,11 +26,15 @@ void addSheetTimeRows(const char *name, const AddValues &addValues)
     }
 }
 
+// Those of the current row.
+SheetPlace currentPlace();
+SheetTime currentTime();
+
 class SheetStage
 {
 public:
     // Builds and shows a keypad of the current kind, sets \a sheet at \a place meanwhile.
-    SheetStage(const QString &sheet, SheetPlace place, SheetTime time);
+    SheetStage(const QString &sheet, SheetPlace place, SheetTime time, DeviceType type = 8);
     ~SheetStage();
 
     QDialog *dialog() { return m_keypad->dialog(); }

@@ -10,18 +10,6 @@ namespace {
 
 const int sheetPixels = 19;
 
-SheetPlace currentPlace()
-{
-    QFETCH(int, place);
-    return SheetPlace(place);
-}
-
-SheetTime currentTime()
-{
-    QFETCH(int, time);
-    return SheetTime(time);
-}
-
 } // namespace
 
 class tst_StyleSheets : public QObject
