@@ -237,7 +237,7 @@ void tst_OtherFields::aDateOutOfLimitsReopensTheKeypad()
                                      } <<
                                      [&] {
                                          QCOMPARE(editLine(Operator::keypad())->text(),
-                                                  u("2023-05-17 13:30:45"));
+                                                  u("2024-05-17 12:30:45"));
                                          QCOMPARE(window.log.heard(), QString());
                                          CHECKED(Operator::tapKeys("Cancel"));
                                      }));
