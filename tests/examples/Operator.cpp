@@ -7,7 +7,7 @@
 //   expect-cell NAME ROW,COLUMN VALUE    what the cell shows then
 //   hard F1                       a hard key, one of F1 to F35
 //   expect NAME PROPERTY VALUE    what the widget has then
-//   expect-at NAME X,Y WxH        where it lies in the registered view
+//   expect-at NAME X,Y WxH        where its keypad lies in the registered view
 // The program ends after the last step, with 1 if a step cannot be done.
 
 #include <HMIDevice/HMIDeviceInfo.h>
@@ -145,7 +145,7 @@ private:
             expect(what, widget->property(step.at(2).toLatin1()).toString(),
                    QStringList(step.mid(3)).join(QLatin1String(" ")));
         else if (step.first() == QLatin1String("expect-at"))
-            expect(what, place(widget), QStringList(step.mid(2)).join(QLatin1String(" ")));
+            expect(what, place(widget->window()), QStringList(step.mid(2)).join(QLatin1String(" ")));
         else
             fail(QLatin1String("no such step: ") + step.first());
     }

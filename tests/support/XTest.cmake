@@ -1,14 +1,22 @@
 # SPDX-License-Identifier: MIT
 
-# hmi_run_on_x_server(<name> <test>): runs the program of that name as tests, twice on an X server of
-# its own: as on a panel, without a window manager, and with one.
+set(HMI_WITH_X_SERVER ${PROJECT_SOURCE_DIR}/tests/support/with-x-server)
+
+# hmi_run_as_on_a_panel(<name> <test>): runs the program of that name as a test on an X server of its
+# own, without a window manager.
+function(hmi_run_as_on_a_panel name test)
+    add_test(NAME ${test} COMMAND ${HMI_WITH_X_SERVER} $<TARGET_FILE:${name}>)
+    hmi_set_test_surroundings(${test})
+    set_tests_properties(${test} PROPERTIES SKIP_RETURN_CODE 77)
+endfunction()
+
+# hmi_run_on_x_server(<name> <test>): the same, and once more with a window manager.
 function(hmi_run_on_x_server name test)
-    set(run ${PROJECT_SOURCE_DIR}/tests/support/with-x-server)
-    set(program $<TARGET_FILE:${name}>)
-    add_test(NAME ${test} COMMAND ${run} ${program})
-    add_test(NAME ${test}_managed COMMAND ${run} --window-manager ${program})
-    hmi_set_test_surroundings(${test} ${test}_managed)
-    set_tests_properties(${test} ${test}_managed PROPERTIES SKIP_RETURN_CODE 77)
+    hmi_run_as_on_a_panel(${name} ${test})
+    add_test(NAME ${test}_managed
+        COMMAND ${HMI_WITH_X_SERVER} --window-manager $<TARGET_FILE:${name}>)
+    hmi_set_test_surroundings(${test}_managed)
+    set_tests_properties(${test}_managed PROPERTIES SKIP_RETURN_CODE 77)
 endfunction()
 
 # hmi_add_x_test(<name> <sources>...): a QtTest program that is clicked with a real pointer.
