@@ -145,7 +145,8 @@ private:
             expect(what, widget->property(step.at(2).toLatin1()).toString(),
                    QStringList(step.mid(3)).join(QLatin1String(" ")));
         else if (step.first() == QLatin1String("expect-at"))
-            expect(what, place(widget->window()), QStringList(step.mid(2)).join(QLatin1String(" ")));
+            expect(what, place(widget->window()),
+                   QStringList(step.mid(2)).join(QLatin1String(" ")));
         else
             fail(QLatin1String("no such step: ") + step.first());
     }
