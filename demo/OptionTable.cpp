@@ -13,11 +13,12 @@ namespace {
 struct Option
 {
     QString name;
-    QString value;     // what stands for the value in the help
+    QString value;     // what stands for the value in the help, or "-" for a flag
     QString form;      // of the value, a regular expression
     QString permitted; // the form in words
     QString fallback;  // the value if none is given, or "-"
-    QString needs;     // "name=value" of another option, or "-"
+    QString needs;     // "name=value" of another option, the name of a flag, or "-"
+    QString doneBy;    // "script" if scripts/demo alone can do it, or "-"
     QString help;
 };
 
@@ -29,9 +30,9 @@ QVector<Option> readTable()
     QVector<Option> table;
     for (const QString &line : lines) {
         const QStringList columns = line.split(QLatin1Char('\t'));
-        if (columns.size() == 7)
+        if (columns.size() == 8)
             table.append({ columns.at(0), columns.at(1), columns.at(2), columns.at(3),
-                           columns.at(4), columns.at(5), columns.at(6) });
+                           columns.at(4), columns.at(5), columns.at(6), columns.at(7) });
     }
     return table;
 }
@@ -41,14 +42,21 @@ bool isGiven(const QString &column)
     return column != QLatin1String("-");
 }
 
+bool isFlag(const Option &option)
+{
+    return !isGiven(option.value);
+}
+
 [[noreturn]] void showHelp(const QVector<Option> &table)
 {
     std::printf("Usage: hmi-demo [options]\n"
                 "A machine-tool panel to try every keypad of HMIDevice on.\n\n");
     for (const Option &option : table) {
-        const QString synopsis = option.name + QLatin1Char(' ') + option.value;
-        std::printf("  --%-14s %s: %s", qPrintable(synopsis), qPrintable(option.help),
-                    qPrintable(option.permitted));
+        const QString synopsis =
+            isFlag(option) ? option.name : option.name + QLatin1Char(' ') + option.value;
+        std::printf("  --%-14s %s", qPrintable(synopsis), qPrintable(option.help));
+        if (isGiven(option.permitted))
+            std::printf(": %s", qPrintable(option.permitted));
         if (isGiven(option.fallback))
             std::printf(" (%s)", qPrintable(option.fallback));
         std::printf("\n");
@@ -74,14 +82,42 @@ void checkForm(const Option &option, const QString &value)
                      .arg(option.name, option.permitted, value));
 }
 
+// The value of the option at index, joined to it or the next argument, to which index then goes.
+QString readValue(const Option &option, const QStringList &arguments, int *index)
+{
+    const QString &argument = arguments.at(*index);
+    const bool isJoined = argument.contains(QLatin1Char('='));
+    if (isFlag(option)) {
+        if (isJoined)
+            complain(QString::fromLatin1("--%1 takes no value").arg(option.name));
+        return QString();
+    }
+    if (!isJoined && ++*index == arguments.size())
+        complain(QString::fromLatin1("--%1 needs a value").arg(option.name));
+    const QString value = isJoined ? argument.section(QLatin1Char('='), 1) : arguments.at(*index);
+    checkForm(option, value);
+    return value;
+}
+
 void checkNeeds(const QVector<Option> &table, const QMap<QString, QString> &values)
 {
     for (const Option &option : table) {
-        const QStringList needed = option.needs.split(QLatin1Char('='));
+        const QString needed = option.needs.section(QLatin1Char('='), 0, 0);
+        const QString value = option.needs.section(QLatin1Char('='), 1);
         if (values.contains(option.name) && isGiven(option.needs)
-            && values.value(needed.first()) != needed.last())
-            complain(QString::fromLatin1("--%1 needs --%2 %3")
-                         .arg(option.name, needed.first(), needed.last()));
+            && (!values.contains(needed) || values.value(needed) != value))
+            complain(QString::fromLatin1("--%1 needs --%2")
+                         .arg(option.name,
+                              QString(option.needs).replace(QLatin1Char('='), QLatin1Char(' '))));
+    }
+}
+
+void refuseWhatTheScriptDoes(const QVector<Option> &table, const QMap<QString, QString> &values)
+{
+    for (const Option &option : table) {
+        if (values.contains(option.name) && isGiven(option.doneBy))
+            complain(QString::fromLatin1("--%1 is for scripts/demo, which starts this program")
+                         .arg(option.name));
     }
 }
 
@@ -105,15 +141,11 @@ QMap<QString, QString> readArguments(const QStringList &arguments)
             showHelp(table);
         if (!argument.startsWith(QLatin1Char('-')))
             complain(QString::fromLatin1("unexpected argument \"%1\"").arg(argument));
-        const bool isJoined = argument.contains(QLatin1Char('='));
         const Option &option = findOption(table, argument.section(QLatin1Char('='), 0, 0));
-        if (!isJoined && i + 1 == arguments.size())
-            complain(QString::fromLatin1("--%1 needs a value").arg(option.name));
-        const QString value = isJoined ? argument.section(QLatin1Char('='), 1) : arguments.at(++i);
-        checkForm(option, value);
-        values.insert(option.name, value);
+        values.insert(option.name, readValue(option, arguments, &i));
     }
     checkNeeds(table, values);
+    refuseWhatTheScriptDoes(table, values);
     addFallbacks(table, &values);
     return values;
 }
