@@ -24,10 +24,10 @@ QString findTranslation(const QString &language)
     return path;
 }
 
-QString makeFolder(const QString &path)
+QString makeFolder(const QString &option, const QString &path)
 {
     if (!QDir().mkpath(path) || !QFileInfo(path).isWritable())
-        complain(QString::fromLatin1("--script: cannot write pictures into \"%1\"").arg(path));
+        complain(QString::fromLatin1("--%1: cannot write pictures into \"%2\"").arg(option, path));
     return QDir(path).absolutePath();
 }
 
@@ -38,6 +38,7 @@ Options readOptions(const QStringList &arguments)
     const QMap<QString, QString> values = readArguments(arguments);
     const QLatin1String language("language");
     const QLatin1String script("script");
+    const QLatin1String gallery("gallery");
 
     Options options;
     options.type = values.value(QLatin1String("type")).toInt();
@@ -46,6 +47,8 @@ Options readOptions(const QStringList &arguments)
     if (values.contains(language))
         options.translation = findTranslation(values.value(language));
     if (values.contains(script))
-        options.pictureFolder = makeFolder(values.value(script));
+        options.pictureFolder = makeFolder(script, values.value(script));
+    if (values.contains(gallery))
+        options.galleryFolder = makeFolder(gallery, values.value(gallery));
     return options;
 }

@@ -14,6 +14,7 @@ struct Options
     int rotation;          // degrees
     QString translation;   // path of a compiled translation of the library; may be empty
     QString pictureFolder; // of the scripted session; empty when an operator is to work the demo
+    QString galleryFolder; // of the gallery; empty when none is to be drawn
 };
 
 // Ends the program after --help, and with exit status 2 and one line on stderr when an argument is

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FieldEditor.h"
+#include "Gallery.h"
 #include "MachineScreen.h"
 #include "Options.h"
 #include "Session.h"
@@ -35,6 +36,8 @@ int main(int argc, char *argv[])
 {
     qtHandler = qInstallMessageHandler(handleMessage);
     const Options options = readOptions(argc, argv);
+    if (!options.galleryFolder.isEmpty())
+        return drawGallery(argc, argv, options.galleryFolder);
     QApplication application(argc, argv);
 
     // The panel model first, then the rotation: both decide the size of the view.

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "Gallery.h"
+
+#include "FacePainter.h"
+#include "GalleryFolder.h"
+#include "GalleryPage.h"
+#include "GalleryTables.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace {
+
+class Artist
+{
+public:
+    explicit Artist(const QString &folder)
+        : m_folder(folder)
+    {
+    }
+
+    // Each returns an empty text, or a complaint.
+    QString drawAll();
+
+    int pictures() const { return m_pictures; }
+
+private:
+    void findSources();
+    void leaveOut(const QString &what);
+    QString drawExhibit(const KeypadKind &keypad, const Face &face, bool upright);
+    void drawSizes(Exhibit *exhibit, const Look &look, const Language &language);
+    QString save(Exhibit *exhibit);
+
+    GalleryFolder m_folder;
+    FacePainter m_painter;
+    bool m_hasDictionary = false;
+    QVector<Language> m_languages;
+    QStringList m_notes;
+    QVector<Exhibit> m_exhibits;
+    int m_pictures = 0;
+};
+
+QString Artist::drawAll()
+{
+    findSources();
+    m_folder.clear();
+    for (bool upright : { false, true }) {
+        for (const KeypadKind &keypad : galleryKeypads()) {
+            for (const Face &face : keypad.faces) {
+                const QString complaint = drawExhibit(keypad, face, upright);
+                if (!complaint.isEmpty())
+                    return complaint;
+            }
+        }
+    }
+    return m_folder.addPage(galleryPage(m_exhibits, m_notes));
+}
+
+void Artist::findSources()
+{
+    const QDir program(QCoreApplication::applicationDirPath());
+    m_hasDictionary = QFileInfo(program.filePath(QLatin1String("data.db"))).isFile();
+    if (!m_hasDictionary)
+        leaveOut(QLatin1String("No pinyin dictionary beside the demo: Chinese candidates are left "
+                               "out"));
+    for (const Language &language : galleryLanguages()) {
+        if (m_painter.setLanguage(language))
+            m_languages.append(language);
+        else
+            leaveOut(QString::fromUtf8("This build has no translation for %1, which is left out")
+                         .arg(QString::fromUtf8(language.title)));
+    }
+}
+
+void Artist::leaveOut(const QString &what)
+{
+    std::printf("%s\n", what.toUtf8().constData());
+    m_notes.append(what + QLatin1Char('.'));
+}
+
+QString Artist::drawExhibit(const KeypadKind &keypad, const Face &face, bool upright)
+{
+    if (face.isChinese && !m_hasDictionary)
+        return QString();
+    const QVector<Language> languages = m_languages;
+    Exhibit exhibit = { &keypad, &face, upright, {} };
+    for (const Look &look : galleryLooks()) {
+        for (const Language &language : languages)
+            drawSizes(&exhibit, look, language);
+    }
+    const QString complaint = save(&exhibit);
+    m_exhibits.append(exhibit);
+    return complaint;
+}
+
+// A picture that is the same in several languages is kept once.
+void Artist::drawSizes(Exhibit *exhibit, const Look &look, const Language &language)
+{
+    m_painter.setLook(look);
+    m_painter.setLanguage(language);
+    for (const QSize &size : gallerySizes(exhibit->upright)) {
+        const QImage image = m_painter.draw(*exhibit->keypad, *exhibit->face, size);
+        bool isKnown = false;
+        for (Picture &picture : exhibit->pictures) {
+            if (picture.look.type == look.type && picture.image == image) {
+                picture.languages.append(language);
+                isKnown = true;
+            }
+        }
+        if (!isKnown)
+            exhibit->pictures.append({ QString(), image, look, { language } });
+    }
+}
+
+QString Artist::save(Exhibit *exhibit)
+{
+    for (Picture &picture : exhibit->pictures) {
+        picture.file =
+            QString::fromLatin1("%1-%2-%3x%4-%5-%6.png")
+                .arg(QLatin1String(exhibit->keypad->name), QLatin1String(exhibit->face->name))
+                .arg(picture.image.width())
+                .arg(picture.image.height())
+                .arg(QLatin1String(picture.look.name),
+                     QLatin1String(picture.languages.first().name));
+        const QString complaint = m_folder.addPicture(picture.file, picture.image);
+        if (!complaint.isEmpty())
+            return complaint;
+        ++m_pictures;
+    }
+    return QString();
+}
+
+} // namespace
+
+int drawGallery(int argc, char *argv[], const QString &folder)
+{
+    // The same pictures whether or not there is a display, and no windows that come and go on one.
+    // Where Qt was built without this platform, the one that is there must do.
+    qputenv("QT_QPA_PLATFORM", "offscreen;" + qgetenv("QT_QPA_PLATFORM"));
+    QApplication application(argc, argv);
+    QApplication::setCursorFlashTime(0);
+
+    Artist artist(folder);
+    const QString complaint = artist.drawAll();
+    if (!complaint.isEmpty()) {
+        std::fprintf(stderr, "hmi-demo: %s\n", qPrintable(complaint));
+        return 1;
+    }
+    std::printf("%d pictures in %s\n", artist.pictures(), qPrintable(folder));
+    return 0;
+}

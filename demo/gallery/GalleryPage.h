@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#ifndef GALLERYPAGE_H
+#define GALLERYPAGE_H
+
+#include "GalleryTables.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QStringList>
+
+struct Picture
+{
+    QString file;
+    QImage image;
+    Look look;
+    QVector<Language> languages; // that it is the same in
+};
+
+// All pictures of a face.
+struct Exhibit
+{
+    const KeypadKind *keypad;
+    const Face *face;
+    bool upright;
+    QVector<Picture> pictures;
+};
+
+// The page that lays the pictures side by side. It is XML as well as HTML. notes say what is not
+// shown, and why.
+QByteArray galleryPage(const QVector<Exhibit> &exhibits, const QStringList &notes);
+
+#endif
