@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include <QWidget>
+
+void snippet(QWidget &window)
+{
+    @SNIPPET@
+}

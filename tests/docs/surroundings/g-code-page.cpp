@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#include <HMIDevice/GCodeKeypad.h>
+
+#include <QLineEdit>
+
+void snippet(QWidget *page)
+{
+    @SNIPPET@
+}

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include <HMIDevice/NumericKeypad.h>
+
+class Screen : public QWidget
+{
+public:
+    void snippet();
+};
+
+void Screen::snippet()
+{
+    @SNIPPET@
+}

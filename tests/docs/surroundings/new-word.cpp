@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+void snippet()
+{
+    @SNIPPET@
+}

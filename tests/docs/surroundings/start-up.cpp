@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+#include <QGraphicsView>
+#include <QTranslator>
+
+void snippet()
+{
+    @SNIPPET@
+}
