@@ -15,6 +15,7 @@ endif()
 
 option(HMI_WERROR "Treat warnings as errors" OFF)
 option(HMI_BUILD_TESTS "Build the tests" ${HMI_TOP_LEVEL})
+option(HMI_BUILD_DOCS "Make the HTML manual (Doxygen)" OFF)
 option(HMI_BUILD_TRANSLATIONS "Compile and install the translations" ${HMI_TOP_LEVEL})
 
 set(needs_qt_5 ${HMI_TOP_LEVEL})

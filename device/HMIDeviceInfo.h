@@ -9,6 +9,7 @@
 class QGraphicsView;
 
 /*!
+ * \relates HMIDeviceInfo
  * The number of a panel model. 1 to 10, 13 to 15 and 19 to 21 are known; any other is an unknown
  * model.
  */

@@ -40,8 +40,15 @@ class HMIDEVICEFIELDS_EXPORT FieldKeypads : public QObject
     Q_OBJECT
 
 public:
-    /*! The keypad of a field; NoKeypad is a field that a tap leaves alone. */
-    enum Kind { NoKeypad, Numeric, GCode, Axis, DateTime, Character };
+    /*! The keypad of a field. */
+    enum Kind {
+        NoKeypad, /*!< a tap leaves the field alone */
+        Numeric,  /*!< NumericKeypad */
+        GCode,    /*!< GCodeKeypad */
+        Axis,     /*!< vondKeypad */
+        DateTime, /*!< DateTimeKeypad */
+        Character /*!< CharacterKeypad */
+    };
 
     /*!
      * Watches the program from now on. Keypads cover \a window while it is visible, or else the
