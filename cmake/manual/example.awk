@@ -5,7 +5,7 @@
 FNR == 1 {
     name = FILENAME
     sub(/^.*\//, "", name)
-    printf "/*! \\example %s\n", name
+    printf "/*! \\example %s\n\\details\n", name
     next
 }
 /^\/\// {

@@ -36,6 +36,8 @@ function with_links(line,    done, text, target) {
             text = reference(text, target)
         else if (target ~ /\.png$/)
             text = "[" text "](" name_of(target) ")"
+        else if (target !~ /:/)
+            text = "<a href=\"" target "\">" text "</a>"
         else
             text = substr(line, RSTART, RLENGTH)
         done = done substr(line, 1, RSTART - 1) text
@@ -68,6 +70,7 @@ in_code {
     next
 }
 /^##+ / {
+    gsub(/`/, "") # which Doxygen takes for a tag in the menus
     heading = $0
     sub(/^#+ /, "", heading)
     print $0 " {#" page "-" anchor_of(heading) "}"
