@@ -17,7 +17,7 @@ struct Option
     QString form;      // of the value, a regular expression
     QString permitted; // the form in words
     QString fallback;  // the value if none is given, or "-"
-    QString needs;     // "name=value" of another option, the name of a flag, or "-"
+    QString needs;     // "name=value" of another option, a flag, "!" and what excludes it, or "-"
     QString doneBy;    // "script" if scripts/demo alone can do it, or "-"
     QString help;
 };
@@ -99,16 +99,35 @@ QString readValue(const Option &option, const QStringList &arguments, int *index
     return value;
 }
 
-void checkNeeds(const QVector<Option> &table, const QMap<QString, QString> &values)
+void checkNeeds(const Option &option, const QMap<QString, QString> &values)
+{
+    const QString needed = option.needs.section(QLatin1Char('='), 0, 0);
+    const QString value = option.needs.section(QLatin1Char('='), 1);
+    if (!values.contains(needed) || values.value(needed) != value)
+        complain(QString::fromLatin1("--%1 needs --%2")
+                     .arg(option.name,
+                          QString(option.needs).replace(QLatin1Char('='), QLatin1Char(' '))));
+}
+
+void checkExclusions(const Option &option, const QMap<QString, QString> &values)
+{
+    const QStringList others = option.needs.mid(1).split(QLatin1Char(','));
+    for (const QString &other : others) {
+        if (values.contains(other))
+            complain(
+                QString::fromLatin1("--%1 cannot be joined with --%2").arg(option.name, other));
+    }
+}
+
+void checkCompany(const QVector<Option> &table, const QMap<QString, QString> &values)
 {
     for (const Option &option : table) {
-        const QString needed = option.needs.section(QLatin1Char('='), 0, 0);
-        const QString value = option.needs.section(QLatin1Char('='), 1);
-        if (values.contains(option.name) && isGiven(option.needs)
-            && (!values.contains(needed) || values.value(needed) != value))
-            complain(QString::fromLatin1("--%1 needs --%2")
-                         .arg(option.name,
-                              QString(option.needs).replace(QLatin1Char('='), QLatin1Char(' '))));
+        if (!values.contains(option.name) || !isGiven(option.needs))
+            continue;
+        if (option.needs.startsWith(QLatin1Char('!')))
+            checkExclusions(option, values);
+        else
+            checkNeeds(option, values);
     }
 }
 
@@ -144,7 +163,7 @@ QMap<QString, QString> readArguments(const QStringList &arguments)
         const Option &option = findOption(table, argument.section(QLatin1Char('='), 0, 0));
         values.insert(option.name, readValue(option, arguments, &i));
     }
-    checkNeeds(table, values);
+    checkCompany(table, values);
     refuseWhatTheScriptDoes(table, values);
     addFallbacks(table, &values);
     return values;
