@@ -44,8 +44,10 @@ private:
 
 QString Artist::drawAll()
 {
+    const QString obstacle = m_folder.clear();
+    if (!obstacle.isEmpty())
+        return obstacle;
     findSources();
-    m_folder.clear();
     for (bool upright : { false, true }) {
         for (const KeypadKind &keypad : galleryKeypads()) {
             for (const Face &face : keypad.faces) {

@@ -43,15 +43,18 @@ GalleryFolder::GalleryFolder(const QString &path)
 {
 }
 
-void GalleryFolder::clear()
+QString GalleryFolder::clear()
 {
+    const QString page = m_folder.filePath(pageName);
+    if (QFile::exists(page) && !isOwnPage(page))
+        return notOwn(page);
+    QFile::remove(page);
     const QStringList names = m_folder.entryList({ QLatin1String("*.png") }, QDir::Files);
     for (const QString &name : names) {
         if (isOwnPicture(m_folder.filePath(name)))
             m_folder.remove(name);
     }
-    if (isOwnPage(m_folder.filePath(pageName)))
-        m_folder.remove(pageName);
+    return QString();
 }
 
 QString GalleryFolder::addPicture(const QString &name, const QImage &picture)
@@ -67,8 +70,6 @@ QString GalleryFolder::addPicture(const QString &name, const QImage &picture)
 QString GalleryFolder::addPage(const QByteArray &page)
 {
     const QString path = m_folder.filePath(pageName);
-    if (QFile::exists(path))
-        return notOwn(path);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit())
         return notWritten(path, file.errorString());

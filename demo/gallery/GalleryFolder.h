@@ -13,10 +13,11 @@ class GalleryFolder
 public:
     explicit GalleryFolder(const QString &path);
 
-    // Takes an earlier gallery away.
-    void clear();
+    // Each of these returns an empty text, or why it is not done.
 
-    // Each returns an empty text, or why the file is not there.
+    // Takes an earlier gallery away.
+    QString clear();
+
     QString addPicture(const QString &name, const QImage &picture);
     QString addPage(const QByteArray &page);
 

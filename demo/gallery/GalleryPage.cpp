@@ -71,8 +71,8 @@ QString titles(const QVector<Language> &languages)
 
 QString rowTitle(const Picture &picture)
 {
-    return QString::fromUtf8("%1 · %2").arg(QLatin1String(picture.look.title),
-                                            titles(picture.languages));
+    return QString::fromLatin1("%1: %2").arg(QLatin1String(picture.look.title),
+                                             titles(picture.languages));
 }
 
 QString sizeTitle(const QSize &size)
@@ -96,6 +96,7 @@ private:
     void writeScales();
     void writeContents(const Exhibits &exhibits);
     void writeExhibit(const Exhibit &exhibit);
+    void writeRowTitle(const Picture &picture);
     void writeFigure(const Exhibit &exhibit, const Picture &picture);
     void writeLinkIn(const char *element, const QString &id, const QString &text);
     void writeHeading(const char *level, const QString &id, const QString &text);
@@ -214,13 +215,28 @@ void Page::writeExhibit(const Exhibit &exhibit)
             if (!row.isEmpty())
                 m_xml.writeEndElement();
             row = rowTitle(picture);
-            m_xml.writeTextElement(tag("h5"), row);
+            writeRowTitle(picture);
             m_xml.writeStartElement(tag("div"));
         }
         writeFigure(exhibit, picture);
     }
     if (!row.isEmpty())
         m_xml.writeEndElement();
+}
+
+void Page::writeRowTitle(const Picture &picture)
+{
+    m_xml.writeStartElement(tag("h5"));
+    m_xml.writeCharacters(tag(picture.look.title));
+    for (const Language &language : picture.languages) {
+        m_xml.writeCharacters(tag(", "));
+        m_xml.writeStartElement(tag("span"));
+        m_xml.writeAttribute(tag("lang"),
+                             tag(language.name).replace(QLatin1Char('_'), QLatin1Char('-')));
+        m_xml.writeCharacters(QString::fromUtf8(language.title));
+        m_xml.writeEndElement();
+    }
+    m_xml.writeEndElement();
 }
 
 void Page::writeFigure(const Exhibit &exhibit, const Picture &picture)

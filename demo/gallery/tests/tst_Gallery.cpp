@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+#include "GalleryTables.h"
+#include "support/Checked.h"
+#include "support/Text.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+// The gallery shows every row of its tables, and its page shows what is in the folder.
+
+namespace {
+
+const int mostMilliseconds = 250000;
+
+struct Run
+{
+    int status;
+    QString output, complaint;
+};
+
+Run draw(const QString &folder, const QString &program = u(HMI_DEMO))
+{
+    QProcess process;
+    process.start(program, { u("--gallery"), folder });
+    const bool ended = process.waitForFinished(mostMilliseconds);
+    return { ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
+             QString::fromUtf8(process.readAllStandardError()) };
+}
+
+// A picture as the page tells of it.
+struct Figure
+{
+    QString file, link, alt, face, look;
+    QStringList languages;
+    QSize size;
+};
+
+QString value(const QXmlStreamReader &xml, const char *attribute)
+{
+    return xml.attributes().value(QLatin1String(attribute)).toString();
+}
+
+QList<Figure> figuresOf(const QString &folder)
+{
+    QList<Figure> figures;
+    QFile page(folder + u("/index.html"));
+    page.open(QIODevice::ReadOnly);
+    QXmlStreamReader xml(&page);
+    QString link;
+    Figure figure;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u("figure")) {
+            figure.face = value(xml, "data-face");
+            figure.look = value(xml, "data-look");
+            figure.languages = value(xml, "data-languages").split(QLatin1Char(' '));
+        } else if (xml.name() == u("a")) {
+            figure.link = value(xml, "href");
+        } else if (xml.name() == u("img")) {
+            figure.file = value(xml, "src");
+            figure.alt = value(xml, "alt");
+            figure.size = QSize(value(xml, "width").toInt(), value(xml, "height").toInt());
+            figures.append(figure);
+        }
+    }
+    return xml.hasError() ? QList<Figure>() : figures;
+}
+
+QString subject(const QString &face, const QString &look, const QString &language,
+                const QSize &size)
+{
+    return u("%1 %2 %3 %4x%5").arg(face, look, language).arg(size.width()).arg(size.height());
+}
+
+QStringList subjectsOf(const QList<Figure> &figures)
+{
+    QStringList subjects;
+    for (const Figure &figure : figures) {
+        for (const QString &language : figure.languages)
+            subjects << subject(figure.face, figure.look, language, figure.size);
+    }
+    subjects.sort();
+    return subjects;
+}
+
+bool isThere(const Language &language)
+{
+    return HMI_HAS_TRANSLATIONS || !language.isTranslation;
+}
+
+void addSubjects(const QString &face, const QSize &size, QStringList *subjects)
+{
+    for (const Look &look : galleryLooks()) {
+        for (const Language &language : galleryLanguages()) {
+            if (isThere(language))
+                *subjects << subject(face, u(look.name), u(language.name), size);
+        }
+    }
+}
+
+QStringList subjectsOfTables(bool withDictionary)
+{
+    QStringList subjects;
+    for (const KeypadKind &keypad : galleryKeypads()) {
+        for (const Face &face : keypad.faces) {
+            if (face.isChinese && !withDictionary)
+                continue;
+            const QVector<QSize> sizes = gallerySizes(false) + gallerySizes(true);
+            for (const QSize &size : sizes)
+                addSubjects(u("%1-%2").arg(u(keypad.name), u(face.name)), size, &subjects);
+        }
+    }
+    subjects.sort();
+    return subjects;
+}
+
+bool hasDictionary()
+{
+    return QFileInfo(QFileInfo(u(HMI_DEMO)).dir(), u("data.db")).exists();
+}
+
+QStringList picturesIn(const QString &folder)
+{
+    return QDir(folder).entryList({ u("*.png") }, QDir::Files, QDir::Name);
+}
+
+// A keypad has its ground, frames and letters smoothed at their edges: dozens of colours.
+int countColours(const QImage &picture)
+{
+    QSet<QRgb> colours;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            colours.insert(picture.pixel(x, y));
+    }
+    return colours.size();
+}
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+} // namespace
+
+class tst_Gallery : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyRowOfTheTablesIsThere();
+    void everyPictureIsAsThePageSays();
+    void theSecondReplacesTheFirst();
+    void withoutADictionary();
+    void anotherPageStays();
+
+private:
+    QString path(const char *name) const { return m_directory.filePath(u(name)); }
+
+    QTemporaryDir m_directory;
+    QString m_gallery;
+};
+
+void tst_Gallery::initTestCase()
+{
+    QVERIFY(m_directory.isValid());
+    m_gallery = path("a gallery, new");
+    const Run run = draw(m_gallery);
+    QCOMPARE(run.complaint, QString());
+    QCOMPARE(run.status, 0);
+    const QString told = u("%1 pictures in %2\n").arg(picturesIn(m_gallery).size()).arg(m_gallery);
+    QCOMPARE(run.output.right(told.length()), told);
+    QCOMPARE(run.output.count(QLatin1Char('\n')),
+             1 + (hasDictionary() ? 0 : 1) + (HMI_HAS_TRANSLATIONS ? 0 : 1));
+}
+
+void tst_Gallery::everyRowOfTheTablesIsThere()
+{
+    QCOMPARE(subjectsOf(figuresOf(m_gallery)), subjectsOfTables(hasDictionary()));
+}
+
+void tst_Gallery::everyPictureIsAsThePageSays()
+{
+    const QList<Figure> figures = figuresOf(m_gallery);
+    QStringList files;
+    for (const Figure &figure : figures) {
+        const QImage picture(m_gallery + u("/") + figure.file);
+        QCOMPARE(picture.size(), figure.size);
+        QVERIFY2(countColours(picture) > 24, qPrintable(figure.file));
+        QCOMPARE(figure.link, figure.file);
+        QVERIFY(!figure.alt.isEmpty());
+        files << figure.file;
+    }
+    files.sort();
+    QCOMPARE(files, picturesIn(m_gallery));
+}
+
+void tst_Gallery::theSecondReplacesTheFirst()
+{
+    const QDir folder(m_gallery);
+    const QStringList names = picturesIn(m_gallery);
+    QHash<QString, QByteArray> first;
+    for (const QString &name : names)
+        first.insert(name, bytesOf(folder.filePath(name)));
+    const QByteArray firstPage = bytesOf(folder.filePath(u("index.html")));
+    QVERIFY(folder.exists(names.first()));
+    QVERIFY(QFile::copy(folder.filePath(names.first()), folder.filePath(u("left-over.png"))));
+    QVERIFY(QImage(2, 2, QImage::Format_RGB32).save(folder.filePath(u("own.png"))));
+    CHECKED(write(folder.filePath(u("own.txt")), "mine"));
+    QVERIFY(QFile::remove(folder.filePath(names.last())));
+
+    QCOMPARE(draw(m_gallery).status, 0);
+    QCOMPARE(QImage(folder.filePath(u("own.png"))).size(), QSize(2, 2));
+    QCOMPARE(bytesOf(folder.filePath(u("own.txt"))), QByteArray("mine"));
+    QVERIFY(QFile::remove(folder.filePath(u("own.png"))));
+    QCOMPARE(picturesIn(m_gallery), names);
+    for (const QString &name : names)
+        QVERIFY2(bytesOf(folder.filePath(name)) == first.value(name), qPrintable(name));
+    QCOMPARE(bytesOf(folder.filePath(u("index.html"))), firstPage);
+}
+
+void tst_Gallery::withoutADictionary()
+{
+    const QString program = path("hmi-demo");
+    QVERIFY(QFile::copy(u(HMI_DEMO), program));
+    const QString gallery = path("without");
+    const Run run = draw(gallery, program);
+    QCOMPARE(run.complaint, QString());
+    QCOMPARE(run.status, 0);
+    const QString note = u("No pinyin dictionary beside the demo");
+    QVERIFY(run.output.startsWith(note));
+    QVERIFY(bytesOf(gallery + u("/index.html")).contains(note.toUtf8()));
+    QCOMPARE(subjectsOf(figuresOf(gallery)), subjectsOfTables(false));
+}
+
+void tst_Gallery::anotherPageStays()
+{
+    const QString gallery = path("a site");
+    QVERIFY(QDir().mkpath(gallery));
+    CHECKED(write(gallery + u("/index.html"), "<title>Of others</title>"));
+    const Run run = draw(gallery);
+    QCOMPARE(run.status, 1);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(run.complaint,
+             u("hmi-demo: \"%1/index.html\" is there and is not of a gallery\n").arg(gallery));
+    QCOMPARE(QDir(gallery).entryList(QDir::Files), QStringList(u("index.html")));
+    QCOMPARE(bytesOf(gallery + u("/index.html")), QByteArray("<title>Of others</title>"));
+}
+
+QTEST_GUILESS_MAIN(tst_Gallery)
+#include "tst_Gallery.moc"
