@@ -17,17 +17,6 @@ namespace {
 
 const int mostMilliseconds = 5000;
 
-// A keypad that does not become active is drawn all the same, without the focus.
-void awaitFocus(QWidget *keypad)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!(Operator::isOnScreen(keypad) && Operator::isActive(keypad))
-           && timer.elapsed() < mostMilliseconds)
-        QApplication::processEvents(QEventLoop::AllEvents, 5);
-    QApplication::processEvents();
-}
-
 void tap(QWidget *part)
 {
     if (QAbstractButton *key = qobject_cast<QAbstractButton *>(part)) {
@@ -67,6 +56,18 @@ void FacePainter::setLook(const Look &look)
     applyTheme(qApp);
 }
 
+// A keypad that does not become active is drawn all the same, without the focus.
+void FacePainter::show(QWidget *keypad)
+{
+    keypad->show();
+    QElapsedTimer timer;
+    timer.start();
+    while (!(Operator::isOnScreen(keypad) && Operator::isActive(keypad))
+           && timer.elapsed() < mostMilliseconds)
+        QApplication::processEvents(QEventLoop::AllEvents, 5);
+    QApplication::processEvents();
+}
+
 QImage FacePainter::draw(const KeypadKind &kind, const Face &face, const QSize &size)
 {
     m_view.setFixedSize(size);
@@ -75,8 +76,7 @@ QImage FacePainter::draw(const KeypadKind &kind, const Face &face, const QSize &
     m_target.setGeometry(m_view.viewport()->rect());
 
     const QScopedPointer<QDialog> keypad(kind.create(&m_view, &m_target, face));
-    keypad->show();
-    awaitFocus(keypad.data());
+    show(keypad.data());
     const QStringList taps = QString::fromLatin1(face.taps).split(QLatin1Char(' '));
     for (const QString &name : taps)
         tap(keypad->findChild<QWidget *>(name));

@@ -22,6 +22,9 @@ public:
     // Type and colours of the keypads that are drawn from now on.
     void setLook(const Look &look);
 
+    // Shows keypad, and waits until it has the focus.
+    static void show(QWidget *keypad);
+
     QImage draw(const KeypadKind &kind, const Face &face, const QSize &size);
 
 private:

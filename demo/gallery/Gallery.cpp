@@ -5,6 +5,7 @@
 #include "GalleryFolder.h"
 #include "GalleryPage.h"
 #include "GalleryTables.h"
+#include "PlacementPicture.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -32,6 +33,8 @@ private:
     QString drawExhibit(const KeypadKind &keypad, const Face &face, bool upright);
     void drawSizes(Exhibit *exhibit, const Look &look, const Language &language);
     QString save(Exhibit *exhibit);
+    QString save(const Picture &picture);
+    QString drawPlacement();
 
     GalleryFolder m_folder;
     FacePainter m_painter;
@@ -39,6 +42,7 @@ private:
     QVector<Language> m_languages;
     QStringList m_notes;
     QVector<Exhibit> m_exhibits;
+    Picture m_placement;
     int m_pictures = 0;
 };
 
@@ -57,7 +61,9 @@ QString Artist::drawAll()
             }
         }
     }
-    return m_folder.addPage(galleryPage(m_exhibits, m_notes));
+    const QString complaint = drawPlacement();
+    return complaint.isEmpty() ? m_folder.addPage(galleryPage(m_exhibits, m_placement, m_notes))
+                               : complaint;
 }
 
 void Artist::findSources()
@@ -102,7 +108,8 @@ void Artist::drawSizes(Exhibit *exhibit, const Look &look, const Language &langu
 {
     m_painter.setLook(look);
     m_painter.setLanguage(language);
-    for (const QSize &size : gallerySizes(exhibit->upright)) {
+    const QVector<QSize> sizes = gallerySizes(exhibit->upright);
+    for (const QSize &size : sizes) {
         const QImage image = m_painter.draw(*exhibit->keypad, *exhibit->face, size);
         bool isKnown = false;
         for (Picture &picture : exhibit->pictures) {
@@ -126,12 +133,25 @@ QString Artist::save(Exhibit *exhibit)
                 .arg(picture.image.height())
                 .arg(QLatin1String(picture.look.name),
                      QLatin1String(picture.languages.first().name));
-        const QString complaint = m_folder.addPicture(picture.file, picture.image);
+        const QString complaint = save(picture);
         if (!complaint.isEmpty())
             return complaint;
-        ++m_pictures;
     }
     return QString();
+}
+
+QString Artist::save(const Picture &picture)
+{
+    ++m_pictures;
+    return m_folder.addPicture(picture.file, picture.image);
+}
+
+QString Artist::drawPlacement()
+{
+    m_painter.setLook(galleryLooks().first());
+    m_painter.setLanguage(galleryLanguages().first());
+    m_placement = { QLatin1String("gcode-placement.png"), placementPicture(), {}, {} };
+    return save(m_placement);
 }
 
 } // namespace

@@ -13,6 +13,9 @@ const struct
     const char *id, *label;
 } scales[] = { { "half", "half size" }, { "full", "true size" } };
 
+const char placementId[] = "placement";
+const char placementTitle[] = "Where the G-code keypad lies";
+
 typedef QVector<Exhibit> Exhibits;
 
 QString tag(const char *name)
@@ -88,7 +91,7 @@ public:
     {
     }
 
-    void write(const Exhibits &exhibits, const QStringList &notes);
+    void write(const Exhibits &exhibits, const Picture &placement, const QStringList &notes);
 
 private:
     void writeHead();
@@ -98,13 +101,14 @@ private:
     void writeExhibit(const Exhibit &exhibit);
     void writeRowTitle(const Picture &picture);
     void writeFigure(const Exhibit &exhibit, const Picture &picture);
+    void writeImage(const Picture &picture, const QString &text);
     void writeLinkIn(const char *element, const QString &id, const QString &text);
     void writeHeading(const char *level, const QString &id, const QString &text);
 
     QXmlStreamWriter m_xml;
 };
 
-void Page::write(const Exhibits &exhibits, const QStringList &notes)
+void Page::write(const Exhibits &exhibits, const Picture &placement, const QStringList &notes)
 {
     m_xml.writeDTD(tag("<!DOCTYPE html>\n"));
     m_xml.writeStartElement(tag("html"));
@@ -124,6 +128,9 @@ void Page::write(const Exhibits &exhibits, const QStringList &notes)
                 writeExhibit(exhibit);
         }
     }
+    writeHeading("h2", tag(placementId), tag(placementTitle));
+    m_xml.writeStartElement(tag("figure"));
+    writeImage(placement, tag(placementTitle));
     m_xml.writeEndDocument();
 }
 
@@ -147,7 +154,7 @@ void Page::writeHead()
 
 void Page::writeIntroduction(const Exhibits &exhibits, const QStringList &notes)
 {
-    int count = 0;
+    int count = 1; // that of the G-code keypad's place
     for (const Exhibit &exhibit : exhibits)
         count += exhibit.pictures.size();
     m_xml.writeTextElement(tag("h1"), tag("The keypads of HMIDevice"));
@@ -203,6 +210,7 @@ void Page::writeContents(const Exhibits &exhibits)
         }
         m_xml.writeEndElement();
     }
+    writeLinkIn("h2", tag(placementId), tag(placementTitle));
     m_xml.writeEndElement();
 }
 
@@ -246,6 +254,17 @@ void Page::writeFigure(const Exhibit &exhibit, const Picture &picture)
     m_xml.writeAttribute(tag("data-face"), faceName(exhibit));
     m_xml.writeAttribute(tag("data-look"), QLatin1String(picture.look.name));
     m_xml.writeAttribute(tag("data-languages"), names(picture.languages));
+    writeImage(picture,
+               QString::fromUtf8("%1, %2, %3, %4")
+                   .arg(tag(exhibit.keypad->title), tag(exhibit.face->title), sizeTitle(size),
+                        rowTitle(picture)));
+    m_xml.writeTextElement(tag("figcaption"), sizeTitle(size));
+    m_xml.writeEndElement();
+}
+
+void Page::writeImage(const Picture &picture, const QString &text)
+{
+    const QSize size = picture.image.size();
     m_xml.writeStartElement(tag("a"));
     m_xml.writeAttribute(tag("href"), picture.file);
     m_xml.writeEmptyElement(tag("img"));
@@ -254,13 +273,7 @@ void Page::writeFigure(const Exhibit &exhibit, const Picture &picture)
     m_xml.writeAttribute(tag("height"), QString::number(size.height()));
     m_xml.writeAttribute(tag("style"), QString::fromLatin1("--width: %1px").arg(size.width()));
     m_xml.writeAttribute(tag("loading"), tag("lazy"));
-    m_xml.writeAttribute(tag("alt"),
-                         QString::fromUtf8("%1, %2, %3, %4")
-                             .arg(QLatin1String(exhibit.keypad->title),
-                                  QLatin1String(exhibit.face->title), sizeTitle(size),
-                                  rowTitle(picture)));
-    m_xml.writeEndElement();
-    m_xml.writeTextElement(tag("figcaption"), sizeTitle(size));
+    m_xml.writeAttribute(tag("alt"), text);
     m_xml.writeEndElement();
 }
 
@@ -284,9 +297,10 @@ void Page::writeHeading(const char *level, const QString &id, const QString &tex
 
 } // namespace
 
-QByteArray galleryPage(const QVector<Exhibit> &exhibits, const QStringList &notes)
+QByteArray galleryPage(const QVector<Exhibit> &exhibits, const Picture &placement,
+                       const QStringList &notes)
 {
     QByteArray bytes;
-    Page(&bytes).write(exhibits, notes);
+    Page(&bytes).write(exhibits, placement, notes);
     return bytes;
 }

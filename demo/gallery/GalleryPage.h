@@ -25,8 +25,9 @@ struct Exhibit
     QVector<Picture> pictures;
 };
 
-// The page that lays the pictures side by side. It is XML as well as HTML. notes say what is not
-// shown, and why.
-QByteArray galleryPage(const QVector<Exhibit> &exhibits, const QStringList &notes);
+// The page that lays the pictures side by side, that of the G-code keypad's place last. It is XML
+// as well as HTML. notes say what is not shown, and why.
+QByteArray galleryPage(const QVector<Exhibit> &exhibits, const Picture &placement,
+                       const QStringList &notes);
 
 #endif
