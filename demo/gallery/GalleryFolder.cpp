@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GalleryFolder.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
@@ -31,9 +32,12 @@ QString notOwn(const QString &path)
     return QString::fromLatin1("\"%1\" is there and is not of a gallery").arg(path);
 }
 
-QString notWritten(const QString &path, const QString &reason)
+QString write(const QString &path, const QByteArray &bytes)
 {
-    return QString::fromLatin1("cannot write \"%1\": %2").arg(path, reason);
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return QString();
+    return QString::fromLatin1("cannot write \"%1\"").arg(path);
 }
 
 } // namespace
@@ -62,16 +66,14 @@ QString GalleryFolder::addPicture(const QString &name, const QImage &picture)
     const QString path = m_folder.filePath(name);
     if (QFile::exists(path))
         return notOwn(path);
-    QImageWriter writer(path, "png");
+    QBuffer buffer; // what cannot be written is told once, not by libpng too
+    QImageWriter writer(&buffer, "png");
     writer.setText(pictureMarkName, mark);
-    return writer.write(picture) ? QString() : notWritten(path, writer.errorString());
+    writer.write(picture);
+    return write(path, buffer.data());
 }
 
 QString GalleryFolder::addPage(const QByteArray &page)
 {
-    const QString path = m_folder.filePath(pageName);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size() || !file.commit())
-        return notWritten(path, file.errorString());
-    return QString();
+    return write(m_folder.filePath(pageName), page);
 }
