@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DateTimeStage.h"
+#include "support/QtDifferences.h"
 
 #include <QDate>
 
@@ -22,7 +23,9 @@ const TextRow textRows[] = {
     { "date and time", "", 19, shownTime, valuesOfShownTime, shownTime },
     { "without a format", "", 0, shownTime, valuesOfShownTime, shownTime },
     { "leap day", "", 10, "2024-02-29", "2024 2 29 0 0 0", "2024-02-29" },
-    { "last second", "", 19, "7999-12-31 23:59:59", "7999 12 31 23 59 59", "7999-12-31 23:59:59" },
+    { "end of 7999", "", 19, "7999-12-31 23:59:59", "7999 12 31 23 59 59", "7999-12-31 23:59:59" },
+    { "start of 8000", "", 19, "8000-01-01 00:00:00", "8000 1 1 0 0 0", "8000-01-01 00:00:00" },
+    { "last second", "", 19, "9999-12-31 23:59:59", "9999 12 31 23 59 59", "9999-12-31 23:59:59" },
 
     { "time where a date is shown", "", 10, "12:34:56", "1900 1 1 12 34 56", "1900-01-01" },
     { "date where a time is shown", "", 8, "2024-05-17", "2024 5 17 0 0 0", "00:00:00" },
@@ -97,10 +100,9 @@ private:
         return first + int(m_engine() % unsigned(last - first + 1));
     }
 
-    // The parser of Qt 4.8 ends with the year 7999.
     QString date()
     {
-        const int year = between(1600, 7999);
+        const int year = between(1600, QtDifferences::lastYearRead());
         const int month = between(1, 12);
         return dateText(year, month, between(1, QDate(year, month, 1).daysInMonth()));
     }
@@ -147,6 +149,8 @@ void tst_DateTimeText::setTextFillsTheFields()
     QFETCH(QString, before);
     QFETCH(int, length);
     QFETCH(QString, text);
+    if (text.left(4).toInt() > QtDifferences::lastYearRead())
+        HMI_SKIP("this Qt does not read dates so late");
     DateTimeStage stage;
     if (!before.isEmpty())
         stage.keypad.setText(before);

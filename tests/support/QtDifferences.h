@@ -71,6 +71,16 @@ inline void readLiteralsAsGbk()
 #endif
 }
 
+// The last year of the dates that Qt reads from a text and a keypad can show.
+inline int lastYearRead()
+{
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    return 7999;
+#else
+    return 9999;
+#endif
+}
+
 // The name of a method and the types of its parameters, as in "setText(QString)".
 inline QByteArray methodSignature(const QMetaMethod &method)
 {
