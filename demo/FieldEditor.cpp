@@ -9,6 +9,7 @@
 #include <HMIDevice/CharacterKeypad.h>
 #include <HMIDevice/DateTimeKeypad.h>
 #include <HMIDevice/GCodeKeypad.h>
+#include <HMIDevice/KeyBoardLineEdit.h>
 #include <HMIDevice/NumericKeypad.h>
 #include <HMIDevice/vondKeypad.h>
 
@@ -25,17 +26,6 @@ bool isAcceptable(const QValidator *validator, QString text)
     return !validator || validator->validate(text, cursor) == QValidator::Acceptable;
 }
 
-// The validator lives no longer than one entry, and the keypad does not own it.
-template <class AnyKeypad>
-int exec(AnyKeypad *keypad, const QString &text, const QValidator *validator)
-{
-    keypad->setValidator(validator);
-    keypad->setText(text);
-    const int result = keypad->exec();
-    keypad->setValidator(nullptr);
-    return result;
-}
-
 } // namespace
 
 FieldEditor::FieldEditor(MachineScreen *screen)
@@ -43,6 +33,7 @@ FieldEditor::FieldEditor(MachineScreen *screen)
     , m_screen(screen)
     , m_editing(false)
 {
+    connect(&m_watch, SIGNAL(told(QString)), SIGNAL(told(QString)));
     connect(screen, SIGNAL(fieldTapped(TouchField *)), SLOT(edit(TouchField *)));
 }
 
@@ -52,14 +43,15 @@ void FieldEditor::edit(TouchField *field)
     m_screen->showMessage(QString());
     const QString before = field->text();
     const QScopedPointer<QValidator> validator(createValidator(field->rule(), nullptr));
-    const int result = runKeypad(field, validator.data());
+    const bool written = runKeypad(field, validator.data());
     m_editing = false;
-    if (result != QDialog::Accepted)
+    if (!written)
         return;
 
     // A validator refuses what can never become right; too small a number can still be confirmed.
     if (!isAcceptable(validator.data(), field->text())) {
         field->setText(before);
+        m_watch.tellText(*field);
         m_screen->showMessage(
             QString::fromUtf8("不接受 Not accepted. %1").arg(limitText(field->rule())));
         return;
@@ -68,7 +60,7 @@ void FieldEditor::edit(TouchField *field)
                                                              field->displayText()));
 }
 
-int FieldEditor::runKeypad(TouchField *field, const QValidator *validator)
+bool FieldEditor::runKeypad(TouchField *field, const QValidator *validator)
 {
     switch (field->rule().keypad) {
     case Keypad::Number:
@@ -84,15 +76,36 @@ int FieldEditor::runKeypad(TouchField *field, const QValidator *validator)
     case Keypad::DateTime:
         return runDateTime(field, validator);
     }
-    return QDialog::Rejected;
+    return false;
+}
+
+// The validator lives no longer than one entry, and the keypad does not own it.
+template <class AnyKeypad>
+bool FieldEditor::exec(AnyKeypad *keypad, const TouchField *field, const QObject *target,
+                       const QValidator *validator)
+{
+    m_watch.watch(keypad);
+    keypad->setValidator(validator);
+    keypad->setText(field->text());
+    const int result = keypad->exec();
+    m_watch.tellResult(keypad, result);
+    keypad->setValidator(nullptr);
+    if (result != QDialog::Accepted)
+        return false;
+    const KeyBoardLineEdit *entry = keypad->template findChild<KeyBoardLineEdit *>();
+    if (m_watch.tellWritten(*field, *target, entry->text()))
+        return true;
+    m_screen->showMessage(
+        QString::fromUtf8("未写入 Not written: %1").arg(QString::fromUtf8(field->rule().label)));
+    return false;
 }
 
 // setObject() comes first, because it takes back part of the adjustments. A keypad serves many
 // fields and keeps the rest of them, so every adjustment is made for every field.
 
 template <class KeypadWithKeys>
-int FieldEditor::runKeys(KeypadWithKeys *keypad, QObject *target, const TouchField *field,
-                         const QValidator *validator)
+bool FieldEditor::runKeys(KeypadWithKeys *keypad, QObject *target, const TouchField *field,
+                          const QValidator *validator)
 {
     const FieldRule &rule = field->rule();
     connect(keypad, SIGNAL(signal_kTypeKeyPressed(int)), SLOT(showHardKey(int)),
@@ -103,10 +116,10 @@ int FieldEditor::runKeys(KeypadWithKeys *keypad, QObject *target, const TouchFie
     keypad->setMaxLength(rule.maxLength);
     keypad->setPasswordEchoMode(rule.masked);
     keypad->setLimitToolTip(limitText(rule));
-    return exec(keypad, field->text(), validator);
+    return exec(keypad, field, target, validator);
 }
 
-int FieldEditor::runCharacters(TouchField *field, const QValidator *validator)
+bool FieldEditor::runCharacters(TouchField *field, const QValidator *validator)
 {
     CharacterKeypad *keypad = CharacterKeypad::instance();
     connect(keypad, SIGNAL(signal_kTypeKeyPressed(int)), SLOT(showHardKey(int)),
@@ -114,10 +127,10 @@ int FieldEditor::runCharacters(TouchField *field, const QValidator *validator)
     keypad->setObject(field);
     keypad->setMaxLength(field->rule().maxLength);
     keypad->setPasswordEchoMode(field->rule().masked);
-    return exec(keypad, field->text(), validator);
+    return exec(keypad, field, field, validator);
 }
 
-int FieldEditor::runDateTime(TouchField *field, const QValidator *validator)
+bool FieldEditor::runDateTime(TouchField *field, const QValidator *validator)
 {
     DateTimeKeypad *keypad = DateTimeKeypad::instance();
     keypad->setObject(field);
@@ -126,7 +139,7 @@ int FieldEditor::runDateTime(TouchField *field, const QValidator *validator)
     for (QSpinBox *part : parts)
         part->setEnabled(true);
     keypad->setMaxLength(field->rule().maxLength);
-    return exec(keypad, field->text(), validator);
+    return exec(keypad, field, field, validator);
 }
 
 void FieldEditor::showHardKey(int key)

@@ -22,6 +22,7 @@ struct FieldRule
     const char *pattern;           // of a text, a regular expression
     int maxLength;                 // in characters
     bool masked;
+    bool readOnly; // for keypads: the field's text is the machine's alone
 };
 
 // The rule of this name, which must exist.

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "MachineScreen.h"
 
+#include "ElidedLabel.h"
 #include "FieldTable.h"
 #include "GaugeBar.h"
 #include "LampRow.h"
+#include "PartCounter.h"
 #include "Theme.h"
 #include "TouchField.h"
 
@@ -11,6 +13,7 @@
 
 #include <QButtonGroup>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -97,6 +100,19 @@ QAbstractButton *MachineScreen::softKey(const QString &page) const
     return findChild<QPushButton *>(page);
 }
 
+QString MachineScreen::page() const
+{
+    return m_softKeys->checkedButton()->objectName();
+}
+
+void MachineScreen::openPage(const QString &page)
+{
+    if (QAbstractButton *key = softKey(page)) {
+        key->setChecked(true);
+        showPage();
+    }
+}
+
 QString MachineScreen::message() const
 {
     return m_message->text();
@@ -107,6 +123,15 @@ void MachineScreen::showMessage(const QString &text)
     m_message->setText(text);
 }
 
+// The keys F1 to F5 lie below the soft keys on panels that have them.
+void MachineScreen::keyPressEvent(QKeyEvent *event)
+{
+    if (QAbstractButton *key = m_softKeys->button(event->key() - Qt::Key_F1))
+        key->click();
+    else
+        QWidget::keyPressEvent(event);
+}
+
 QWidget *MachineScreen::createTopBar()
 {
     QWidget *bar = new QWidget(this);
@@ -115,10 +140,9 @@ QWidget *MachineScreen::createTopBar()
     m_title = createLabel("", bar);
     m_title->setObjectName(QLatin1String("pageTitle"));
     m_title->setFont(boldFont(m_title->font()));
-    m_message = createLabel("", bar);
+    m_message = new ElidedLabel(bar);
     m_message->setObjectName(QLatin1String("message"));
     m_message->setFont(fontOf(font(), m_unit * 6 / 10));
-    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QLabel *mode = createLabel("自动 AUTO", bar);
     mode->setObjectName(QLatin1String("mode"));
     mode->setFont(boldFont(mode->font()));
@@ -274,7 +298,7 @@ QWidget *MachineScreen::createParameterPage()
 QWidget *MachineScreen::createSystemPage()
 {
     QVBoxLayout *layout = new QVBoxLayout;
-    for (const char *name : { "operator", "comment", "date", "time", "service" })
+    for (const char *name : { "operator", "comment", "date", "time", "service", "parts" })
         layout->addWidget(createRow(name));
     return createPage(layout);
 }
@@ -352,9 +376,11 @@ QWidget *MachineScreen::createRow(const char *name, QWidget *belowLabel)
     return card;
 }
 
-TouchField *MachineScreen::createField(const char *rule, int pixels, QWidget *parent)
+TouchField *MachineScreen::createField(const char *name, int pixels, QWidget *parent)
 {
-    TouchField *field = new TouchField(fieldRule(rule), parent);
+    const FieldRule &rule = fieldRule(name);
+    TouchField *field =
+        rule.readOnly ? new PartCounter(rule, parent) : new TouchField(rule, parent);
     field->setFont(digitFont(pixels));
     connect(field, SIGNAL(tapped(TouchField *)), SIGNAL(fieldTapped(TouchField *)));
     return field;

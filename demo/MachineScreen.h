@@ -28,6 +28,12 @@ public:
     // The soft key of the page with this Latin name, or null.
     QAbstractButton *softKey(const QString &page) const;
 
+    // The Latin name of the page that is shown.
+    QString page() const;
+
+    // Ignores a page that does not exist.
+    void openPage(const QString &page);
+
     QString message() const;
 
 public Q_SLOTS:
@@ -35,6 +41,9 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void fieldTapped(TouchField *field);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private Q_SLOTS:
     void showPage();
@@ -52,7 +61,7 @@ private:
     QWidget *createAxis(const char *name);
     QWidget *createGauge(const char *name);
     QWidget *createRow(const char *name, QWidget *belowLabel = nullptr);
-    TouchField *createField(const char *rule, int pixels, QWidget *parent);
+    TouchField *createField(const char *name, int pixels, QWidget *parent);
     QLabel *createLabel(const char *text, QWidget *parent);
     QWidget *createPage(QBoxLayout *layout);
 

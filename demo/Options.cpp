@@ -14,14 +14,12 @@ QSize readSize(const QString &text)
     return QSize(sides.first().toInt(), sides.last().toInt());
 }
 
-QString findTranslation(const QString &language)
+QString checkLanguage(const QString &language)
 {
-    const QString path =
-        QString::fromLatin1("%1/HMIDevice_%2.qm").arg(QLatin1String(HMI_TRANSLATIONS), language);
-    if (!QFileInfo(path).isFile())
+    if (!language.isEmpty() && findTranslation(language).isEmpty())
         complain(
             QString::fromLatin1("--language: this build has no translation \"%1\"").arg(language));
-    return path;
+    return language;
 }
 
 QString makeFolder(const QString &option, const QString &path)
@@ -36,16 +34,18 @@ QString makeFolder(const QString &option, const QString &path)
 Options readOptions(const QStringList &arguments)
 {
     const QMap<QString, QString> values = readArguments(arguments);
-    const QLatin1String language("language");
     const QLatin1String script("script");
     const QLatin1String gallery("gallery");
 
     Options options;
-    options.type = values.value(QLatin1String("type")).toInt();
-    options.size = readSize(values.value(QLatin1String("size")));
-    options.rotation = values.value(QLatin1String("rotate")).toInt();
-    if (values.contains(language))
-        options.translation = findTranslation(values.value(language));
+    options.panel.type = values.value(QLatin1String("type")).toInt();
+    options.panel.size = readSize(values.value(QLatin1String("size")));
+    options.panel.rotation = values.value(QLatin1String("rotate")).toInt();
+    options.panel.language = checkLanguage(values.value(QLatin1String("language")));
+    options.panel.style =
+        values.value(QLatin1String("scheme")) == QLatin1String("light") ? Style::Light : Style::Dark;
+    options.panel.frame = values.contains(QLatin1String("frame"));
+    options.screenAlone = values.contains(QLatin1String("panel"));
     if (values.contains(script))
         options.pictureFolder = makeFolder(script, values.value(script));
     if (values.contains(gallery))

@@ -2,17 +2,16 @@
 #ifndef OPTIONS_H
 #define OPTIONS_H
 
-#include <QSize>
+#include "PanelSetup.h"
+
 #include <QString>
 #include <QStringList>
 
 // What the command line asks for.
 struct Options
 {
-    int type;
-    QSize size;            // of the free-size model, in pixels
-    int rotation;          // degrees
-    QString translation;   // path of a compiled translation of the library; may be empty
+    PanelSetup panel;
+    bool screenAlone;      // without the simulator around it
     QString pictureFolder; // of the scripted session; empty when an operator is to work the demo
     QString galleryFolder; // of the gallery; empty when none is to be drawn
 };

@@ -17,16 +17,25 @@ struct Theme
     const char *screen, *bar, *card, *border, *label, *field, *value, *accent, *softKey;
 };
 
+// The fields of the date-time keypad turn white while they are edited, whatever the palette says,
+// so their text must be dark, in the dark themes, too.
+
 // clang-format off
-const Theme graphite = {
-    "#c3cad1", "#14202b", "#eef1f4", "#14202b", "#9aa5af", "#ffffff", "#14202b",
-    "#d9dfe4", "#14202b", "#2f7fb8",
+const Theme dark = {
+    "#222a32", "#e6ecf1", "#3b4753", "#f4f7fa", "#75828e", "#f4f7fa", "#10181f",
+    "#39444e", "#d5dde4", "#2f7fb8",
     "#1c232a", "#11161b", "#27313a", "#3d4a56", "#c3ced8", "#0d1216", "#63e6be", "#ffb938",
     "#36434f"
 };
 
-// Panels of type 13 have green and yellow on dark blue everywhere, as their keypads do. The fields
-// of the date-time keypad turn white while they are edited, so their text must be dark.
+const Theme light = {
+    "#c3cad1", "#14202b", "#eef1f4", "#14202b", "#9aa5af", "#ffffff", "#14202b",
+    "#d9dfe4", "#14202b", "#2f7fb8",
+    "#dbe1e6", "#c3ccd4", "#f1f4f6", "#a9b5bf", "#2a3843", "#ffffff", "#00563a", "#b25000",
+    "#e6ebef"
+};
+
+// Panels of type 13 have green and yellow on dark blue everywhere, as their keypads do.
 const Theme darkBlue = {
     "#0f0f46", "#00ff00", "#0f0f46", "#00ff00", "#66709c", "#ffffff", "#0f0f46",
     "#0f0f46", "#ffff00", "#3c3cb4",
@@ -35,9 +44,13 @@ const Theme darkBlue = {
 };
 // clang-format on
 
+Style chosenStyle = Style::Dark;
+
 const Theme &theme()
 {
-    return HMIDeviceInfo::deviceType() == 13 ? darkBlue : graphite;
+    if (HMIDeviceInfo::deviceType() == 13)
+        return darkBlue;
+    return chosenStyle == Style::Dark ? dark : light;
 }
 
 QColor colour(const char *name)
@@ -83,10 +96,11 @@ QProgressBar::chunk { background: $accent; }
 
 } // namespace
 
-void applyTheme(QApplication *application)
+void applyTheme(Style style)
 {
-    application->setStyle(QLatin1String("Fusion"));
-    application->setPalette(palette(theme()));
+    chosenStyle = style;
+    QApplication::setStyle(QLatin1String("Fusion"));
+    QApplication::setPalette(palette(theme()));
 }
 
 QString screenStyleSheet()

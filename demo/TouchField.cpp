@@ -42,12 +42,25 @@ void TouchField::mouseDoubleClickEvent(QMouseEvent *)
 {
 }
 
+// On a panel without a touch screen the arrow keys lead from field to field.
 void TouchField::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
         Q_EMIT tapped(this);
-    else
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+        focusPreviousChild();
+        break;
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+        focusNextChild();
+        break;
+    default:
         QWidget::keyPressEvent(event);
+    }
 }
 
 void TouchField::showBeginning()

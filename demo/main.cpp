@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "FieldEditor.h"
 #include "Gallery.h"
-#include "MachineScreen.h"
 #include "Options.h"
+#include "Panel.h"
 #include "Session.h"
-#include "Theme.h"
-
-#include <HMIDevice/HMIDeviceInfo.h>
+#include "simulator/RemotePanel.h"
+#include "simulator/Simulator.h"
 
 #include <QApplication>
-#include <QGraphicsView>
-#include <QTranslator>
 
 namespace {
 
@@ -30,39 +26,35 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         qtHandler(type, context, message);
 }
 
+int runSimulator(const PanelSetup &setup)
+{
+    applySimulatorTheme();
+    const Simulator simulator(setup);
+    return QCoreApplication::exec();
+}
+
+int runPanel(const Options &options)
+{
+    Panel panel(options.panel);
+    panel.show();
+    Session session(panel.view(), panel.screen(), panel.editor());
+    if (!options.pictureFolder.isEmpty())
+        session.start(options.pictureFolder);
+    return QCoreApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     qtHandler = qInstallMessageHandler(handleMessage);
+    if (argc == 2 && qstrcmp(argv[1], Protocol::panelArgument) == 0)
+        return runRemotePanel(argc, argv);
     const Options options = readOptions(argc, argv);
     if (!options.galleryFolder.isEmpty())
         return drawGallery(argc, argv, options.galleryFolder);
     QApplication application(argc, argv);
-
-    // The panel model first, then the rotation: both decide the size of the view.
-    HMIDeviceInfo::setDeviceInfo(options.type, options.size);
-    HMIDeviceInfo::setScreenRotate(options.rotation);
-    applyTheme(&application);
-
-    // Keypads take their texts when they are built.
-    QTranslator translator;
-    if (!options.translation.isEmpty() && translator.load(options.translation))
-        application.installTranslator(&translator);
-
-    QGraphicsView view;
-    view.setWindowTitle(QLatin1String("hmi-demo"));
-    view.setFrameShape(QFrame::NoFrame); // so that keypads cover exactly what is seen
-    view.setFixedSize(HMIDeviceInfo::screenSize());
-    HMIDeviceInfo::setGraphicsView(&view);
-
-    MachineScreen screen(view.viewport());
-    FieldEditor editor(&screen);
-    screen.resize(view.size());
-    view.show();
-
-    Session session(&view, &screen, &editor);
-    if (!options.pictureFolder.isEmpty())
-        session.start(options.pictureFolder);
-    return application.exec();
+    if (options.screenAlone || !options.pictureFolder.isEmpty())
+        return runPanel(options);
+    return runSimulator(options.panel);
 }

@@ -53,7 +53,7 @@ bool FacePainter::setLanguage(const Language &language)
 void FacePainter::setLook(const Look &look)
 {
     HMIDeviceInfo::setDeviceInfo(look.type, QSize());
-    applyTheme(qApp);
+    applyTheme(Style::Light);
 }
 
 // A keypad that does not become active is drawn all the same, without the focus.
