@@ -2,6 +2,9 @@
 
 enable_testing()
 
+# Tests that start programs start them by the emulator too, which they find in their environment.
+string(REPLACE ";" "\\;" HMI_EMULATOR "${CMAKE_CROSSCOMPILING_EMULATOR}")
+
 # hmi_set_test_surroundings(<tests>...): no display, and where a test makes one no OpenGL on it, no
 # machine's locale, no complaint of Qt about a missing runtime directory, and none of LeakSanitizer
 # about what Qt leaks. Qt 4 has no platform plugins: its tests use the display that is there.
@@ -14,5 +17,20 @@ function(hmi_set_test_surroundings)
     if(HMI_QT_MAJOR GREATER 4)
         list(APPEND surroundings QT_QPA_PLATFORM=offscreen QT_XCB_GL_INTEGRATION=none)
     endif()
-    set_tests_properties(${ARGN} PROPERTIES TIMEOUT 300 ENVIRONMENT "${surroundings}")
+    set(seconds 300)
+    if(HMI_EMULATOR)
+        list(APPEND surroundings "HMI_EMULATOR=${HMI_EMULATOR}")
+        set(seconds 1800)
+    endif()
+    set_tests_properties(${ARGN} PROPERTIES
+        TIMEOUT ${seconds} ENVIRONMENT "${surroundings}")
+endfunction()
+
+# hmi_add_suite(<test> <program> [<command that runs it>...]): the tests of a QtTest program, which
+# must come to their end.
+function(hmi_add_suite test program)
+    add_test(NAME ${test} COMMAND ${ARGN} ${PROJECT_SOURCE_DIR}/tests/support/with-totals
+        ${CMAKE_CURRENT_BINARY_DIR}/${test}.log
+        ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${program}>)
+    hmi_set_test_surroundings(${test})
 endfunction()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DictionarySession.h"
 #include "support/DictionaryFile.h"
+#include "support/Emulation.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -27,8 +28,9 @@ class Writer
 public:
     bool lock()
     {
-        m_process.start(DictionaryFile::directory() + u("/lock_dictionary"),
-                        QStringList(DictionaryFile::path()));
+        const QStringList command = commandOf(DictionaryFile::directory() + u("/lock_dictionary"))
+            << DictionaryFile::path();
+        m_process.start(command.first(), command.mid(1));
         return m_process.waitForReadyRead() && m_process.readAll().startsWith("locked");
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DictionaryProgram.h"
+#include "support/Emulation.h"
 
 #include <QDir>
 #include <QFile>
@@ -109,8 +110,9 @@ void Workshop::prepare(QProcess *process, const QStringList &arguments) const
     environment.insert(u("LC_ALL"), u("C.UTF-8"));
     process->setProcessEnvironment(environment);
     process->setWorkingDirectory(m_directory.path());
-    process->setProgram(u(HMI_DICTIONARY_PROGRAM));
-    process->setArguments(arguments);
+    const QStringList command = commandOf(u(HMI_DICTIONARY_PROGRAM)) + arguments;
+    process->setProgram(command.first());
+    process->setArguments(command.mid(1));
 }
 
 ProgramRun Workshop::run(const QStringList &arguments) const

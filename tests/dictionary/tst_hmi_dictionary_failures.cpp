@@ -56,9 +56,9 @@ QByteArray longList(int firstSyllables)
 ProgramRun runWithLittleSpace(const Workshop &workshop)
 {
     QProcess process;
-    workshop.prepare(&process, QStringList());
-    process.start(
-        u("sh"), { u("-c"), u("ulimit -f 64 && exec \"$0\" --words list.tsv"), process.program() });
+    workshop.prepare(&process, words("--words list.tsv"));
+    const QStringList limited { u("-c"), u("ulimit -f 64 && exec \"$0\" \"$@\"") };
+    process.start(u("sh"), limited + QStringList(process.program()) + process.arguments());
     return ended(&process);
 }
 
@@ -69,7 +69,7 @@ ProgramRun runAsAnybody(const Workshop &workshop, const QStringList &arguments)
     workshop.prepare(&process, arguments);
     if (geteuid() == 0) {
         process.setArguments(words("--reuid=65534 --regid=65534 --clear-groups")
-                             + QStringList(process.program()) + arguments);
+                             + QStringList(process.program()) + process.arguments());
         process.setProgram(u("setpriv"));
     }
     process.start();
