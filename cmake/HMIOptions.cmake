@@ -13,6 +13,8 @@ if(NOT DEFINED BUILD_SHARED_LIBS)
     set(BUILD_SHARED_LIBS ON)
 endif()
 
+set(HMI_NAME_SUFFIX "" CACHE STRING "Added to the names of the libraries and of their data's folder")
+
 option(HMI_WERROR "Treat warnings as errors" OFF)
 option(HMI_BUILD_TESTS "Build the tests" ${HMI_TOP_LEVEL})
 option(HMI_BUILD_DOCS "Make the HTML manual (Doxygen)" OFF)

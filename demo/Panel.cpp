@@ -38,8 +38,8 @@ void setUpFrame(QGraphicsView *view, bool frame)
 
 QString findTranslation(const QString &language)
 {
-    const QString path =
-        QString::fromLatin1("%1/HMIDevice_%2.qm").arg(QLatin1String(HMI_TRANSLATIONS), language);
+    const QString path = QString::fromLatin1("%1/translations/HMIDevice_%2.qm")
+                             .arg(QCoreApplication::applicationDirPath(), language);
     return QFileInfo(path).isFile() ? path : QString();
 }
 
