@@ -13,4 +13,5 @@ add_custom_target(docs ALL
         ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/manual
     COMMENT "Making the HTML manual"
     VERBATIM)
-install(DIRECTORY ${PROJECT_BINARY_DIR}/manual/html DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY ${PROJECT_BINARY_DIR}/manual/html
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT dev)

@@ -46,8 +46,8 @@ bool FacePainter::setLanguage(const Language &language)
     if (!language.isTranslation)
         return true;
     const QString name = QLatin1String("HMIDevice_") + QLatin1String(language.name);
-    return m_translator.load(name, QLatin1String(HMI_TRANSLATIONS))
-        && QApplication::installTranslator(&m_translator);
+    const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/translations");
+    return m_translator.load(name, folder) && QApplication::installTranslator(&m_translator);
 }
 
 void FacePainter::setLook(const Look &look)
