@@ -2,6 +2,8 @@
 #ifndef FIELDWINDOW_H
 #define FIELDWINDOW_H
 
+#include "SignalLog.h"
+
 #include <HMIDevice/FieldKeypads.h>
 
 #include <QLineEdit>
@@ -10,25 +12,6 @@
 #include <QStringList>
 #include <QVBoxLayout>
 #include <QWidget>
-
-// What a program hears from a field, in the order in which it hears it.
-class SignalLog : public QObject
-{
-    Q_OBJECT
-
-public:
-    // Hears those of \a signatures, separated by blanks, that \a sender has.
-    void hear(QObject *sender, const char *signatures);
-
-    // The names of the signals that were sent, separated by blanks.
-    QString heard() const { return m_heard.join(QLatin1String(" ")); }
-
-private Q_SLOTS:
-    void note();
-
-private:
-    QStringList m_heard;
-};
 
 // A program's window, shown, with one field to work and another that may have the focus.
 class FieldWindow : public QWidget

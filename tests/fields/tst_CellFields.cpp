@@ -90,17 +90,17 @@ void tst_CellFields::aCellTakesDataOfItsType()
     QAbstractItemView *view = newView(isTree);
     view->setModel(&model);
     FieldWindow window(view);
-    window.log.hear(&model, "itemChanged(QStandardItem*)");
+    window.log.listenToKnown(&model, "itemChanged(QStandardItem*)");
     CHECKED(Operator::withKeypad([=] { openCell(view, index); },
                                  Entries() <<
                                      [&] {
-                                         QCOMPARE(window.log.heard(), QString());
+                                         QCOMPARE(window.log.names(), QString());
                                          CHECKED(Operator::tapKeys(keys.constData()));
                                      }));
     const QVariant taken = index.data(Qt::EditRole);
     QCOMPARE(taken.userType(), written.userType());
     QCOMPARE(taken, written);
-    QCOMPARE(window.log.heard(), u("itemChanged"));
+    QCOMPARE(window.log.names(), u("itemChanged"));
 }
 
 void tst_CellFields::aCellOfATableWidgetIsTaken()
@@ -113,7 +113,7 @@ void tst_CellFields::aCellOfATableWidgetIsTaken()
     CHECKED(Operator::withKeypad([=] { openCell(table, table->model()->index(1, 0)); },
                                  Entries() << [] { CHECKED(Operator::tapKeys("7 5 Enter")); }));
     QCOMPARE(item->data(Qt::EditRole), QVariant(75));
-    QCOMPARE(window.log.heard(), u("cellChanged"));
+    QCOMPARE(window.log.names(), u("cellChanged"));
 }
 
 void tst_CellFields::cancelLeavesACellAsItIs()
@@ -128,7 +128,7 @@ void tst_CellFields::cancelLeavesACellAsItIs()
                                          CHECKED(Operator::pressHardKey("Escape"));
                                      }));
     QCOMPARE(table->item(0, 0)->text(), u("ab"));
-    QCOMPARE(window.log.heard(), QString());
+    QCOMPARE(window.log.names(), QString());
 }
 
 void tst_CellFields::aCellThatCannotBeEditedOpensNone()

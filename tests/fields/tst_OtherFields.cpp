@@ -148,13 +148,13 @@ void editSecondLine()
     CHECKED(Operator::withKeypad([=] { Operator::tap(edit->viewport(), place); },
                                  Entries() <<
                                      [&] {
-                                         QCOMPARE(window.log.heard(), QString());
+                                         QCOMPARE(window.log.names(), QString());
                                          QCOMPARE(editLine(Operator::keypad())->text(), u("G1 Y2"));
                                          CHECKED(typeKeys("x y Return"));
                                      }));
     QCOMPARE(edit->toPlainText(), u("G0 X1\nxy\nM30"));
     QCOMPARE(edit->textCursor().block(), secondLine(edit));
-    QCOMPARE(window.log.heard(), u("textChanged"));
+    QCOMPARE(window.log.names(), u("textChanged"));
     edit->undo();
     QCOMPARE(edit->toPlainText(), text);
 }
@@ -219,11 +219,11 @@ void tst_OtherFields::aDateOrTimeIsTaken()
                                              Operator::keypad()->layout()->menuBar());
                                          QCOMPARE(limitLine ? limitLine->text() : QString(),
                                                   limits);
-                                         QCOMPARE(window.log.heard(), QString());
+                                         QCOMPARE(window.log.names(), QString());
                                          CHECKED(Operator::tapKeys("+ Ok"));
                                      }));
     QCOMPARE(qobject_cast<QDateTimeEdit *>(window.field)->dateTime(), value);
-    QCOMPARE(window.log.heard(), u("dateTimeChanged editingFinished"));
+    QCOMPARE(window.log.names(), u("dateTimeChanged editingFinished"));
     QVERIFY(window.field->hasFocus());
 }
 
@@ -238,11 +238,11 @@ void tst_OtherFields::aDateOutOfLimitsReopensTheKeypad()
                                      [&] {
                                          QCOMPARE(editLine(Operator::keypad())->text(),
                                                   u("2024-05-17 12:30:45"));
-                                         QCOMPARE(window.log.heard(), QString());
+                                         QCOMPARE(window.log.names(), QString());
                                          CHECKED(Operator::tapKeys("Cancel"));
                                      }));
     QCOMPARE(qobject_cast<QDateTimeEdit *>(window.field)->dateTime(), noon());
-    QCOMPARE(window.log.heard(), QString());
+    QCOMPARE(window.log.names(), QString());
 }
 
 void tst_OtherFields::cancelLeavesADateAsItIs_data()
@@ -261,7 +261,7 @@ void tst_OtherFields::cancelLeavesADateAsItIs()
     CHECKED(Operator::withKeypad([&] { Operator::tap(tappedPart(window.field)); },
                                  Entries() << [] { CHECKED(Operator::tapKeys("- Cancel")); }));
     QCOMPARE(window.field->property("text").toString(), shown);
-    QCOMPARE(window.log.heard(), QString());
+    QCOMPARE(window.log.names(), QString());
 }
 
 void tst_OtherFields::anEditableComboBoxFollows_data()
