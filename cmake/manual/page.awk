@@ -76,4 +76,8 @@ in_code {
     print $0 " {#" page "-" anchor_of(heading) "}"
     next
 }
+/^!\[.*\)$/ {
+    print with_links($0) "\n" # a picture with a caption is a paragraph of its own
+    next
+}
 { print with_examples(with_links($0)) }
