@@ -2,10 +2,12 @@
 #include "Gallery.h"
 
 #include "FacePainter.h"
+#include "Fonts.h"
 #include "GalleryFolder.h"
 #include "GalleryPage.h"
 #include "GalleryTables.h"
 #include "PlacementPicture.h"
+#include "SimulatorPicture.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -13,6 +15,13 @@
 #include <cstdio>
 
 namespace {
+
+const struct
+{
+    const char *name, *title;
+    int type;
+} simulatorPlates[] = { { "simulator", "The panel simulator", 8 },
+                        { "simulator-type13", "The panel simulator with type 13", 13 } };
 
 class Artist
 {
@@ -34,7 +43,8 @@ private:
     void drawSizes(Exhibit *exhibit, const Look &look, const Language &language);
     QString save(Exhibit *exhibit);
     QString save(const Picture &picture);
-    QString drawPlacement();
+    QString drawPlates();
+    QString addPlate(const char *name, const char *title, const QImage &image);
 
     GalleryFolder m_folder;
     FacePainter m_painter;
@@ -42,7 +52,7 @@ private:
     QVector<Language> m_languages;
     QStringList m_notes;
     QVector<Exhibit> m_exhibits;
-    Picture m_placement;
+    QVector<Plate> m_plates;
     int m_pictures = 0;
 };
 
@@ -61,8 +71,8 @@ QString Artist::drawAll()
             }
         }
     }
-    const QString complaint = drawPlacement();
-    return complaint.isEmpty() ? m_folder.addPage(galleryPage(m_exhibits, m_placement, m_notes))
+    const QString complaint = drawPlates();
+    return complaint.isEmpty() ? m_folder.addPage(galleryPage(m_exhibits, m_plates, m_notes))
                                : complaint;
 }
 
@@ -146,12 +156,26 @@ QString Artist::save(const Picture &picture)
     return m_folder.addPicture(picture.file, picture.image);
 }
 
-QString Artist::drawPlacement()
+QString Artist::drawPlates()
 {
     m_painter.setLook(galleryLooks().first());
     m_painter.setLanguage(galleryLanguages().first());
-    m_placement = { QLatin1String("gcode-placement.png"), placementPicture(), {}, {} };
-    return save(m_placement);
+    QString complaint =
+        addPlate("gcode-placement", "Where the G-code keypad lies", placementPicture());
+    for (const auto &plate : simulatorPlates) {
+        if (complaint.isEmpty())
+            complaint = addPlate(plate.name, plate.title, simulatorPicture(plate.type));
+    }
+    return complaint;
+}
+
+QString Artist::addPlate(const char *name, const char *title, const QImage &image)
+{
+    if (image.isNull())
+        return QString::fromLatin1("no picture came for \"%1\"").arg(QLatin1String(title));
+    const QString file = QLatin1String(name) + QLatin1String(".png");
+    m_plates.append({ name, title, { file, image, {}, {} } });
+    return save(m_plates.last().picture);
 }
 
 } // namespace
@@ -163,6 +187,7 @@ int drawGallery(int argc, char *argv[], const QString &folder)
     qputenv("QT_QPA_PLATFORM", "offscreen;" + qgetenv("QT_QPA_PLATFORM"));
     QApplication application(argc, argv);
     QApplication::setCursorFlashTime(0);
+    chooseFonts();
 
     Artist artist(folder);
     const QString complaint = artist.drawAll();

@@ -13,9 +13,6 @@ const struct
     const char *id, *label;
 } scales[] = { { "half", "half size" }, { "full", "true size" } };
 
-const char placementId[] = "placement";
-const char placementTitle[] = "Where the G-code keypad lies";
-
 typedef QVector<Exhibit> Exhibits;
 
 QString tag(const char *name)
@@ -91,13 +88,13 @@ public:
     {
     }
 
-    void write(const Exhibits &exhibits, const Picture &placement, const QStringList &notes);
+    void write(const Exhibits &exhibits, const QVector<Plate> &plates, const QStringList &notes);
 
 private:
     void writeHead();
-    void writeIntroduction(const Exhibits &exhibits, const QStringList &notes);
+    void writeIntroduction(const Exhibits &exhibits, int plates, const QStringList &notes);
     void writeScales();
-    void writeContents(const Exhibits &exhibits);
+    void writeContents(const Exhibits &exhibits, const QVector<Plate> &plates);
     void writeExhibit(const Exhibit &exhibit);
     void writeRowTitle(const Picture &picture);
     void writeFigure(const Exhibit &exhibit, const Picture &picture);
@@ -108,15 +105,15 @@ private:
     QXmlStreamWriter m_xml;
 };
 
-void Page::write(const Exhibits &exhibits, const Picture &placement, const QStringList &notes)
+void Page::write(const Exhibits &exhibits, const QVector<Plate> &plates, const QStringList &notes)
 {
     m_xml.writeDTD(tag("<!DOCTYPE html>\n"));
     m_xml.writeStartElement(tag("html"));
     m_xml.writeAttribute(tag("lang"), tag("en"));
     writeHead();
     m_xml.writeStartElement(tag("body"));
-    writeIntroduction(exhibits, notes);
-    writeContents(exhibits);
+    writeIntroduction(exhibits, plates.size(), notes);
+    writeContents(exhibits, plates);
     writeScales();
     m_xml.writeStartElement(tag("main"));
     for (const Section &section : sections) {
@@ -128,9 +125,12 @@ void Page::write(const Exhibits &exhibits, const Picture &placement, const QStri
                 writeExhibit(exhibit);
         }
     }
-    writeHeading("h2", tag(placementId), tag(placementTitle));
-    m_xml.writeStartElement(tag("figure"));
-    writeImage(placement, tag(placementTitle));
+    for (const Plate &plate : plates) {
+        writeHeading("h2", tag(plate.id), tag(plate.title));
+        m_xml.writeStartElement(tag("figure"));
+        writeImage(plate.picture, tag(plate.title));
+        m_xml.writeEndElement();
+    }
     m_xml.writeEndDocument();
 }
 
@@ -152,9 +152,9 @@ void Page::writeHead()
     m_xml.writeEndElement();
 }
 
-void Page::writeIntroduction(const Exhibits &exhibits, const QStringList &notes)
+void Page::writeIntroduction(const Exhibits &exhibits, int plates, const QStringList &notes)
 {
-    int count = 1; // that of the G-code keypad's place
+    int count = plates;
     for (const Exhibit &exhibit : exhibits)
         count += exhibit.pictures.size();
     m_xml.writeTextElement(tag("h1"), tag("The keypads of HMIDevice"));
@@ -191,7 +191,7 @@ void Page::writeScales()
     }
 }
 
-void Page::writeContents(const Exhibits &exhibits)
+void Page::writeContents(const Exhibits &exhibits, const QVector<Plate> &plates)
 {
     m_xml.writeStartElement(tag("nav"));
     m_xml.writeAttribute(tag("aria-label"), tag("Contents"));
@@ -210,7 +210,8 @@ void Page::writeContents(const Exhibits &exhibits)
         }
         m_xml.writeEndElement();
     }
-    writeLinkIn("h2", tag(placementId), tag(placementTitle));
+    for (const Plate &plate : plates)
+        writeLinkIn("h2", tag(plate.id), tag(plate.title));
     m_xml.writeEndElement();
 }
 
@@ -297,10 +298,10 @@ void Page::writeHeading(const char *level, const QString &id, const QString &tex
 
 } // namespace
 
-QByteArray galleryPage(const QVector<Exhibit> &exhibits, const Picture &placement,
+QByteArray galleryPage(const QVector<Exhibit> &exhibits, const QVector<Plate> &plates,
                        const QStringList &notes)
 {
     QByteArray bytes;
-    Page(&bytes).write(exhibits, placement, notes);
+    Page(&bytes).write(exhibits, plates, notes);
     return bytes;
 }

@@ -25,9 +25,17 @@ struct Exhibit
     QVector<Picture> pictures;
 };
 
-// The page that lays the pictures side by side, that of the G-code keypad's place last. It is XML
-// as well as HTML. notes say what is not shown, and why.
-QByteArray galleryPage(const QVector<Exhibit> &exhibits, const Picture &placement,
+// A picture that is not of a keypad alone, with a section of its own.
+struct Plate
+{
+    const char *id;
+    const char *title;
+    Picture picture;
+};
+
+// The page that lays the pictures side by side. It is XML as well as HTML. notes say what is not
+// shown, and why.
+QByteArray galleryPage(const QVector<Exhibit> &exhibits, const QVector<Plate> &plates,
                        const QStringList &notes);
 
 #endif

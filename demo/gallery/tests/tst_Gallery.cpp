@@ -84,7 +84,7 @@ QStringList subjectsOf(const QList<Figure> &figures)
     QStringList subjects;
     for (const Figure &figure : figures) {
         if (figure.face.isEmpty())
-            continue; // where the G-code keypad lies, in no table
+            continue; // shows more than a keypad, and is in no table
         for (const QString &language : figure.languages)
             subjects << subject(figure.face, figure.look, language, figure.size);
     }
