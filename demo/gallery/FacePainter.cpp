@@ -2,6 +2,7 @@
 #include "FacePainter.h"
 
 #include "Operator.h"
+#include "PanelSetup.h"
 #include "Theme.h"
 
 #include <QAbstractButton>
@@ -45,9 +46,8 @@ bool FacePainter::setLanguage(const Language &language)
     QApplication::removeTranslator(&m_translator);
     if (!language.isTranslation)
         return true;
-    const QString name = QLatin1String("HMIDevice_") + QLatin1String(language.name);
-    const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/translations");
-    return m_translator.load(name, folder) && QApplication::installTranslator(&m_translator);
+    return m_translator.load(findTranslation(QLatin1String(language.name)))
+        && QApplication::installTranslator(&m_translator);
 }
 
 void FacePainter::setLook(const Look &look)

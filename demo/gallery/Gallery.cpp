@@ -87,7 +87,7 @@ void Artist::findSources()
         if (m_painter.setLanguage(language))
             m_languages.append(language);
         else
-            leaveOut(QString::fromUtf8("This build has no translation for %1, which is left out")
+            leaveOut(QString::fromUtf8("No translation for %1 beside the demo: it is left out")
                          .arg(QString::fromUtf8(language.title)));
     }
 }
