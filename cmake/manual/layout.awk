@@ -27,7 +27,7 @@ FNR == NR {
     print tab("usergroup", "Manual", " url=\"@ref using\">")
     printf "%s</tab>\n", pages
     print tab("classlist", "Classes", "/>")
-    print tab("examples", "Examples", "/>")
+    print tab("examples", "Example sources", "/>")
     inside = 1
 }
 /<\/navindex>/ { inside = 0 }

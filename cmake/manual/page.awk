@@ -36,6 +36,8 @@ function with_links(line,    done, text, target) {
             text = reference(text, target)
         else if (target ~ /\.png$/)
             text = "[" text "](" name_of(target) ")"
+        else if (target ~ /examples\/[A-Za-z-]+\.(cpp|h)$/)
+            text = "[" text "](@ref " name_of(target) ")"
         else if (target !~ /:/)
             text = "<a href=\"" target "\">" text "</a>"
         else
