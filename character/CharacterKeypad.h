@@ -47,6 +47,8 @@ class QValidator;
  * and the next letter asks again. In return the keypad may keep the file locked for reading from
  * one letter to the next: replace a file in use by renaming another over it. A program that runs
  * goes on with the former one.
+ *
+ * Call everything from the GUI thread.
  */
 class HMIDEVICE_EXPORT CharacterKeypad : public QDialog
 {

@@ -29,6 +29,8 @@ class QValidator;
  * empty or, with a date, shows midnight. A field that is no value after a
  * tap on a key is orange until it is right or left. "Ok" writes what the display shows; without a
  * target it does nothing, and the keypad stays open.
+ *
+ * Call everything from the GUI thread.
  */
 class HMIDEVICE_EXPORT DateTimeKeypad : public QDialog
 {

@@ -33,6 +33,8 @@ class QValidator;
  *
  * Confirming writes what stands in the edit line, whether or not a validator accepts it as
  * complete. Without a target it does nothing, and the keypad stays open.
+ *
+ * Call everything from the GUI thread.
  */
 class HMIDEVICE_EXPORT GCodeKeypad : public QDialog
 {
