@@ -43,15 +43,14 @@ class Holdings:
 class VirtualScreen:
     """One run of the script, in a group of processes of its own, as a terminal would start it."""
 
-    def __init__(self, way="web", address="127.0.0.1", program=(DEMO,), user=None, command=None):
+    def __init__(self, way="web", address="127.0.0.1", program=(DEMO,), user=None):
         prefix = ["setpriv", "--reuid", str(user), "--regid", str(user), "--clear-groups"] if user else []
         self.complaints = tempfile.TemporaryFile(mode="w+")
         self.lines = []
         self.process = subprocess.Popen(
-            prefix + list(command or [SCRIPT, way, address, *program]), cwd="/", start_new_session=True, text=True,
+            prefix + [SCRIPT, way, address, *program], cwd="/", start_new_session=True, text=True,
             encoding="utf-8", stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=self.complaints)
-        self.reader = threading.Thread(target=self.read, daemon=True)
-        self.reader.start()
+        threading.Thread(target=self.read, daemon=True).start()
 
     def __enter__(self):
         return self
@@ -60,13 +59,12 @@ class VirtualScreen:
         if self.process.poll() is None:
             self.process.terminate()
         self.process.wait()
-        self.reader.join()
-        self.process.stdout.close()
         self.complaints.close()
 
     def read(self):
-        for line in self.process.stdout:
-            self.lines.append(line.rstrip("\n"))
+        with self.process.stdout as lines:  # open as long as anybody can write to it
+            for line in lines:
+                self.lines.append(line.rstrip("\n"))
 
     def said(self):
         self.complaints.seek(0)
