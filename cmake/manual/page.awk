@@ -78,8 +78,18 @@ in_code {
     print $0 " {#" page "-" anchor_of(heading) "}"
     next
 }
+{ $0 = begun $0 }
+/\[[^]]*$/ { # a link goes on in the next line
+    begun = $0 " "
+    next
+}
+{ begun = "" }
 /^!\[.*\)$/ {
     print with_links($0) "\n" # a picture with a caption is a paragraph of its own
     next
 }
 { print with_examples(with_links($0)) }
+END {
+    if (begun != "")
+        print begun
+}
