@@ -48,7 +48,7 @@ class VirtualScreen:
         self.complaints = tempfile.TemporaryFile(mode="w+")
         self.lines = []
         self.process = subprocess.Popen(
-            prefix + [SCRIPT, way, address, *program], cwd="/", start_new_session=True, text=True,
+            prefix + [SCRIPT, way, address, "1280x800", *program], cwd="/", start_new_session=True, text=True,
             encoding="utf-8", stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=self.complaints)
         threading.Thread(target=self.read, daemon=True).start()
 
