@@ -5,8 +5,12 @@ import unittest
 
 SKIPPED = 77
 
-result = unittest.main(module=None, verbosity=2, exit=False).result
-for _, reason in result.skipped:
+try:
+    result = unittest.main(module=None, verbosity=2, exit=False).result
+except unittest.SkipTest as reason:  # of the module as a whole
+    print(f"skipped: {reason}")
+    sys.exit(SKIPPED)
+for reason in sorted({reason for _, reason in result.skipped}):
     print(f"skipped: {reason}")
 if not result.wasSuccessful():
     sys.exit(1)
