@@ -16,7 +16,7 @@
 
 namespace {
 
-const int mostMilliseconds = 5000;
+const int mostMilliseconds = 1000;
 
 void tap(QWidget *part)
 {
