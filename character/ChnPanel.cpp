@@ -16,9 +16,11 @@
 
 namespace {
 
-// What stays readable where the panel is short of room, in heights of a line.
-const int pinyinMinimumWidth = 2;
-const int candidateMinimumWidth = 1;
+// What each part keeps where the panel is short of room, in pixels: enough for six letters, for one
+// character and for a finger.
+const int pinyinMinimumWidth = 48;
+const int candidateMinimumWidth = 18;
+const int pagingMinimumWidth = 26;
 
 // Candidates of any length leave the paging buttons their place.
 class PagingButton : public Keypad::KeyButton
@@ -26,7 +28,10 @@ class PagingButton : public Keypad::KeyButton
 public:
     using KeyButton::KeyButton;
 
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override
+    {
+        return QSize(pagingMinimumWidth, KeyButton::minimumSizeHint().height());
+    }
 };
 
 QToolButton *createPagingButton(QWidget *parent, const char *label, const char *name,
@@ -41,10 +46,9 @@ QToolButton *createPagingButton(QWidget *parent, const char *label, const char *
 
 // A candidate is shown as it will be inserted, whatever marks the dictionary has in it.
 template <class Label>
-Label *createLabel(QWidget *parent, int minimumWidthInLines)
+Label *createLabel(QWidget *parent, int minimumWidth)
 {
-    Label *label =
-        new Keypad::FittedLabel<Label>(QString(), parent, minimumWidthInLines, Keypad::oneLine);
+    Label *label = new Keypad::FittedLabel<Label>(QString(), parent, minimumWidth, Keypad::oneLine);
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     Keypad::colourLabel(label);

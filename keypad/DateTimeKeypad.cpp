@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "DateTimeKeypad.h"
 
+#include "FittedDisplay_p.h"
 #include "FittedLabel_p.h"
 #include "HMIDeviceInfo.h"
-#include "KeyBoardLineEdit.h"
 #include "KeyButton_p.h"
 #include "KeypadFont_p.h"
 #include "KeypadLook_p.h"
@@ -230,7 +230,7 @@ void DateTimeKeypad::slot_editingFinished()
 
 void DateTimeKeypad::setUpDisplay()
 {
-    m_lineEdit = new KeyBoardLineEdit(this);
+    m_lineEdit = new Keypad::FittedDisplay(this);
     m_lineEdit->setObjectName(QLatin1String(Keypad::editLineName));
     m_lineEdit->setEnabled(false);
     m_lineEdit->setAlignment(Qt::AlignCenter);
@@ -297,6 +297,7 @@ QLayout *DateTimeKeypad::labelledFields()
                                                         Keypad::anyWidth, Keypad::oneLine);
         label->setObjectName(QLatin1String(fieldCells[i].name) + QLatin1String("Label"));
         label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+        label->setMinimumWidth(1); // for the policy would take the room that a value needs
         grid->addWidget(label, fieldCells[i].row, fieldCells[i].column);
         grid->addWidget(m_fields[i], fieldCells[i].row, fieldCells[i].column + 1);
     }

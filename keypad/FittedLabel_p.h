@@ -29,7 +29,7 @@ class FittedLabel : public Label
 {
 public:
     // The label asks for \a mostLines lines at most; a layout that is short of room leaves it half
-    // of them, and \a leastWidth heights of a line in width.
+    // of them, and \a leastWidth pixels.
     FittedLabel(const QString &text, QWidget *parent, int leastWidth, int mostLines)
         : Label(text, parent)
         , m_leastWidth(leastWidth)
@@ -44,8 +44,7 @@ public:
 
     QSize minimumSizeHint() const override
     {
-        const int width = m_leastWidth * this->fontMetrics().height();
-        const QSize size(width, plainSize(this).height());
+        const QSize size(m_leastWidth, plainSize(this).height());
         return boundedSize(this, size, (m_mostLines + 3) / 4);
     }
 

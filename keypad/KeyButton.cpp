@@ -2,7 +2,9 @@
 #include "KeyButton_p.h"
 
 #include "FittedText_p.h"
+#include "LabelSizes_p.h"
 
+#include <QEvent>
 #include <QFontMetrics>
 #include <QStyle>
 #include <QStyleOptionToolButton>
@@ -13,13 +15,20 @@ namespace Keypad {
 namespace {
 
 const int labelFlags = Qt::TextShowMnemonic;
-const int leastHeight = 20; // pixels, that limits of many lines leave a key
+const int leastHeight = 20;     // pixels, that limits of many lines leave a key
+const qreal blankOpacity = 0.4; // of a disabled key, which has no label that could look disabled
 
 } // namespace
 
 KeyButton::KeyButton(QWidget *parent)
     : QToolButton(parent)
 {
+}
+
+KeyButton::~KeyButton()
+{
+    if (m_sizes)
+        m_sizes->remove(this);
 }
 
 QSize KeyButton::sizeHint() const
@@ -33,6 +42,34 @@ QSize KeyButton::minimumSizeHint() const
     return QSize(0, leastHeight);
 }
 
+void KeyButton::shareLabelSize(const QSharedPointer<LabelSizes> &sizes)
+{
+    m_sizes = sizes;
+    m_sizes->add(this);
+}
+
+QString KeyButton::label() const
+{
+    return icon().isNull() && arrowType() == Qt::NoArrow ? text() : QString();
+}
+
+int KeyButton::wholeLabelSize() const
+{
+    const QSize room = labelRoom();
+    if (fits(sizeOf(label(), font(), labelFlags), room))
+        return anySize;
+    return fittedFont(font(), label(), labelFlags, room).pixelSize();
+}
+
+bool KeyButton::event(QEvent *event)
+{
+    const QEvent::Type type = event->type();
+    if (m_sizes
+        && (type == QEvent::Resize || type == QEvent::FontChange || type == QEvent::StyleChange))
+        m_sizes->forget(this);
+    return QToolButton::event(event);
+}
+
 // Not as a tool button, which looks at itself once more after its click: what a key does may
 // destroy the keypad, such as a field that closes its screen.
 void KeyButton::mouseReleaseEvent(QMouseEvent *event)
@@ -42,9 +79,8 @@ void KeyButton::mouseReleaseEvent(QMouseEvent *event)
 
 void KeyButton::paintEvent(QPaintEvent *event)
 {
-    const QRect rect = labelRect();
-    const QSize room = rect.size() - QSize(2, 2); // a pixel off what surrounds it
-    if (!showsOnlyText() || fits(sizeOf(text(), font(), labelFlags), room)) {
+    const int size = labelSize();
+    if (size == anySize && !isBlank()) {
         QToolButton::paintEvent(event);
         return;
     }
@@ -53,18 +89,30 @@ void KeyButton::paintEvent(QPaintEvent *event)
     initStyleOption(&option);
     option.text.clear();
     QStylePainter painter(this);
+    painter.setOpacity(isBlank() ? blankOpacity : 1);
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
-
-    option.rect = rect;
-    option.font = fittedFont(font(), text(), labelFlags, room);
+    if (isBlank())
+        return;
+    option.rect = labelRect();
+    option.font = font();
+    option.font.setPixelSize(size);
     option.fontMetrics = QFontMetrics(option.font);
-    option.text = fittedText(option.font, text(), labelFlags, room);
+    option.text = fittedText(option.font, text(), labelFlags, labelRoom());
     painter.drawControl(QStyle::CE_ToolButtonLabel, option);
 }
 
-bool KeyButton::showsOnlyText() const
+// At which the label is drawn. It may have less room now than when it was measured: a style sheet
+// can give a pressed key another border.
+int KeyButton::labelSize() const
 {
-    return icon().isNull() && arrowType() == Qt::NoArrow;
+    if (label().isEmpty())
+        return anySize;
+    return m_sizes ? qMin(wholeLabelSize(), m_sizes->sharedSize(this)) : wholeLabelSize();
+}
+
+bool KeyButton::isBlank() const
+{
+    return !isEnabled() && text().isEmpty() && icon().isNull() && arrowType() == Qt::NoArrow;
 }
 
 // Inside what a style sheet puts around a label, or else inside the style's frame.
@@ -80,6 +128,12 @@ QRect KeyButton::labelRect() const
         rect = option.rect.adjusted(frame, frame, -frame, -frame);
     }
     return rect;
+}
+
+// A pixel off what surrounds the label.
+QSize KeyButton::labelRoom() const
+{
+    return labelRect().size() - QSize(2, 2);
 }
 
 } // namespace Keypad

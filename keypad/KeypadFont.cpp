@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "KeypadFont_p.h"
 
+#include "LabelSizes_p.h"
+
 #include <QAbstractSpinBox>
 #include <QDialog>
 #include <QEvent>
@@ -110,6 +112,7 @@ QFont font(int points)
 void setUpFonts(QDialog *keypad, int points)
 {
     new FontShare(keypad, font(points));
+    shareLabelSizes(keypad);
 }
 
 } // namespace Keypad

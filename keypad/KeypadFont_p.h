@@ -16,7 +16,8 @@ const int tipPoints = 20;
 QFont font(int points);
 
 // Sets that font on \a keypad for all parts that it has by now. A font that the application sets on
-// the keypad later reaches them, as with any dialog, unless there is a style sheet.
+// the keypad later reaches them, as with any dialog, unless there is a style sheet. Keys whose labels
+// do not fit share the sizes at which these are drawn.
 void setUpFonts(QDialog *keypad, int points);
 
 } // namespace Keypad

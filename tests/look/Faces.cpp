@@ -6,7 +6,9 @@
 namespace {
 
 const QSize panelSizes[] = { QSize(480, 272), QSize(640, 480), QSize(800, 480), QSize(800, 600),
-                             QSize(272, 480) };
+                             QSize(272, 480), QSize(480, 640), QSize(480, 800), QSize(600, 800) };
+
+const QSize smallestSizes[] = { QSize(320, 240), QSize(240, 320) };
 
 // How the face after the first, which shows itself, comes.
 struct NextFace
@@ -44,14 +46,11 @@ QList<Widget *> shownTexts(const QWidget *keypad)
     return shown;
 }
 
-} // namespace
-
-void addPanelRows()
+template <int count>
+void addRows(const QSize (&sizes)[count])
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QSize>("size");
     for (int type : { 8, 13 }) {
-        for (const QSize &size : panelSizes) {
+        for (const QSize &size : sizes) {
             const QString name = QString::fromLatin1("%1x%2, type %3")
                                      .arg(size.width())
                                      .arg(size.height())
@@ -59,6 +58,21 @@ void addPanelRows()
             QTest::newRow(qPrintable(name)) << type << size;
         }
     }
+}
+
+} // namespace
+
+void addPanelRows()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QSize>("size");
+    addRows(panelSizes);
+}
+
+void addScreenRows()
+{
+    addPanelRows();
+    addRows(smallestSizes);
 }
 
 FaceStage::FaceStage()

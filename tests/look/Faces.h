@@ -6,9 +6,12 @@
 
 // Every face that a keypad has, on every panel.
 
-// The columns "type" and "size": every size of screen, in the panel type with a scheme of colours
-// and in another.
+// The columns "type" and "size": the screens of all panels, as they stand and turned, in the panel
+// type with a scheme of colours and in another.
 void addPanelRows();
+
+// The same, with the smallest screens on which everything can be read.
+void addScreenRows();
 
 // A keypad of the current kind, shown over all of a panel: that of the current row, or the given
 // one.

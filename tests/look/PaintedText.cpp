@@ -11,6 +11,7 @@
 namespace {
 
 const int smallestPixelSize = 8;
+const int keyFlags = Qt::TextShowMnemonic;
 
 bool fits(const QSize &size, const QSize &room)
 {
@@ -57,23 +58,61 @@ void setPixelSize(QWidget *twin, int pixels)
     twin->ensurePolished();
 }
 
-// Gives \a twin the largest font in which its text fits \a room; or the smallest font that is still
-// legible, and of the text what fits then.
-template <class Twin>
-void shrink(Twin *twin, int flags, const QSize &room)
+bool fitsAt(int pixels, QFont font, const QString &text, int flags, const QSize &room)
 {
-    const QString text = twin->text();
-    QFont font(twin->font());
-    for (int size = QFontInfo(font).pixelSize(); size > smallestPixelSize; --size) {
-        font.setPixelSize(size);
-        if (fits(QFontMetrics(font).size(flags, text), room))
-            break;
-        font.setPixelSize(smallestPixelSize);
+    font.setPixelSize(pixels);
+    return fits(QFontMetrics(font).size(flags, text), room);
+}
+
+// The largest size up to \a most at which \a text fits \a room, or the smallest that is still
+// legible.
+int largestPixelSize(int most, const QFont &font, const QString &text, int flags, const QSize &room)
+{
+    int size = most;
+    while (size > smallestPixelSize && !fitsAt(size, font, text, flags, room))
+        --size;
+    return size;
+}
+
+int pixelSizeOf(const QWidget *widget)
+{
+    return QFontInfo(widget->font()).pixelSize();
+}
+
+// Gives \a twin a font of \a pixels, and of its text what fits \a room then.
+template <class Twin>
+void shrink(Twin *twin, int pixels, int flags, const QSize &room)
+{
+    setPixelSize(twin, pixels);
+    const QFontMetrics metrics(twin->font());
+    if (metrics.size(flags, twin->text()).width() > room.width())
+        twin->setText(metrics.elidedText(twin->text(), Qt::ElideRight, room.width(), flags));
+}
+
+// Whether a label is more than one character to a reader. "&&" is one ampersand.
+bool showsWord(const QToolButton *key)
+{
+    return key->text().length() > 1 && key->text() != u("&&");
+}
+
+// Qt 5 has two ways to say the same family, which only the fonts' descriptions make equal.
+bool isSameFont(const QFont &a, const QFont &b)
+{
+    return a == b || a.toString() == b.toString();
+}
+
+// Keys in the same font that show one character have one size, and so have those that show a word.
+int sharedPixelSize(const QToolButton *key, const QMargins &around)
+{
+    int size = pixelSizeOf(key);
+    const QList<QToolButton *> keys = key->window()->findChildren<QToolButton *>();
+    for (const QToolButton *other : keys) {
+        if (other->isVisible() && !other->text().isEmpty() && showsWord(other) == showsWord(key)
+            && isSameFont(other->font(), key->font()))
+            size = largestPixelSize(size, other->font(), other->text(), keyFlags,
+                                    roomIn(other, around));
     }
-    setPixelSize(twin, font.pixelSize());
-    const QFontMetrics metrics(font);
-    if (metrics.size(flags, text).width() > room.width())
-        twin->setText(metrics.elidedText(text, Qt::ElideRight, room.width(), flags));
+    return size;
 }
 
 // Grown by an even number of pixels, so that a centred text keeps its place among the pixels.
@@ -187,7 +226,8 @@ QString complaintAbout(QLabel *label, QLabel *twin, const QMargins &around)
     fixIndent(twin);
     if (isRich(label))
         return complaintAboutSmallRichText(label, twin, around);
-    shrink(twin, 0, roomIn(label, sum(around, indentOf(twin))));
+    const QSize room = roomIn(label, sum(around, indentOf(twin)));
+    shrink(twin, largestPixelSize(pixelSizeOf(twin), twin->font(), twin->text(), 0, room), 0, room);
     return complaintAboutInk(label, twin, around);
 }
 
@@ -240,12 +280,23 @@ QLabel *newTwin(const QLabel *label)
 QString complaintAbout(QToolButton *key, const QMargins &around)
 {
     const QScopedPointer<QToolButton> twin(newTwin(key));
-    const QSize needed = QFontMetrics(key->font()).size(Qt::TextShowMnemonic, key->text());
-    const QSize room = roomIn(key, around);
-    if (fits(needed, room))
+    const int size = sharedPixelSize(key, around);
+    if (size == pixelSizeOf(key))
         return described(key, complaintAboutFittingText(key, twin.data(), around));
-    shrink(twin.data(), Qt::TextShowMnemonic, room);
+    shrink(twin.data(), size, keyFlags, roomIn(key, around));
     return described(key, complaintAboutInk(key, twin.data(), around));
+}
+
+bool isWhole(const QToolButton *key, const QMargins &around)
+{
+    return fitsAt(sharedPixelSize(key, around), key->font(), key->text(), keyFlags,
+                  roomIn(key, around));
+}
+
+bool isWhole(const QLabel *label)
+{
+    return fits(label->QLabel::sizeHint(), label->size())
+        || fitsAt(smallestPixelSize, label->font(), label->text(), 0, roomIn(label, QMargins()));
 }
 
 QString complaintAbout(QLabel *label, const QMargins &around)

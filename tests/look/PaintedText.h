@@ -25,7 +25,7 @@ Ink inkOf(Widget *widget)
 {
     const QString text = widget->text();
     const QImage withText = pictureOf(widget);
-    widget->setText(QString());
+    widget->setText(QLatin1String(" ")); // not nothing, which a disabled key shows by itself
     const QImage withoutText = pictureOf(widget);
     widget->setText(text);
     return inkBetween(withText, withoutText);
@@ -38,8 +38,13 @@ QLabel *newTwin(const QLabel *label);
 
 // What is wrong with the way in which a text is drawn; nothing is where this is empty. It has to be
 // the twin's text to the pixel where that has room, and else whole, off the border, and no smaller
-// than it must be. \a around is what border, padding and margin take of each side.
+// than it must be, or than the labels that share its size must be. \a around is what border, padding
+// and margin take of each side.
 QString complaintAbout(QToolButton *key, const QMargins &around);
 QString complaintAbout(QLabel *label, const QMargins &around);
+
+// Whether no letter is left out.
+bool isWhole(const QToolButton *key, const QMargins &around);
+bool isWhole(const QLabel *label); // that is set up as the keypads' own
 
 #endif

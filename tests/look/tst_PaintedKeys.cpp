@@ -8,6 +8,54 @@
 
 // Every key of every keypad shows its label, as a plain button does where it has room.
 
+namespace {
+
+// Looks at a widget until it is painted.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget *widget)
+        : m_isPainted(false)
+    {
+        widget->installEventFilter(this);
+    }
+
+    // Qt paints later what is to be painted once more because another widget was.
+    bool isPainted() const
+    {
+        for (int turns = 0; turns < 1000 && !m_isPainted; ++turns)
+            QTest::qWait(10);
+        return m_isPainted;
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            m_isPainted = true;
+        return false;
+    }
+
+private:
+    bool m_isPainted;
+};
+
+// The largest difference to the background in any of the three colours.
+int contrast(const QImage &picture, const QColor &background)
+{
+    int most = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor colour(picture.pixel(x, y));
+            most = qMax(most, qAbs(colour.red() - background.red()));
+            most = qMax(most, qAbs(colour.green() - background.green()));
+            most = qMax(most, qAbs(colour.blue() - background.blue()));
+        }
+    }
+    return most;
+}
+
+} // namespace
+
 class tst_PaintedKeys : public QObject
 {
     Q_OBJECT
@@ -20,6 +68,9 @@ private Q_SLOTS:
     void everyStateShows();
     void whateverAnApplicationCallsIt_data();
     void whateverAnApplicationCallsIt();
+    void theOthersFollowALabelThatGrows();
+    void aDisabledKeyWithoutLabelIsPale_data();
+    void aDisabledKeyWithoutLabelIsPale();
     void anIconTakesTheLabelsPlace_data();
     void anIconTakesTheLabelsPlace();
 };
@@ -31,7 +82,7 @@ void tst_PaintedKeys::initTestCase_data()
 
 void tst_PaintedKeys::everyKeyShowsItsLabel_data()
 {
-    addPanelRows();
+    addScreenRows();
 }
 
 void tst_PaintedKeys::everyKeyShowsItsLabel()
@@ -40,8 +91,10 @@ void tst_PaintedKeys::everyKeyShowsItsLabel()
     do {
         const QList<QToolButton *> keys = stage.shownKeys();
         QVERIFY(keys.size() > 10);
-        for (QToolButton *key : keys)
+        for (QToolButton *key : keys) {
             QCOMPARE(complaintAbout(key, stylesFrame()), QString());
+            QVERIFY2(isWhole(key, stylesFrame()), qPrintable(key->text()));
+        }
     } while (stage.showNextFace());
 }
 
@@ -90,6 +143,43 @@ void tst_PaintedKeys::whateverAnApplicationCallsIt()
         key->setText(label);
         QCOMPARE(complaintAbout(key, stylesFrame()), QString());
     }
+}
+
+void tst_PaintedKeys::theOthersFollowALabelThatGrows()
+{
+    FaceStage stage(8, QSize(480, 272));
+    QToolButton *other = ::key(stage.dialog(), u(currentKind().cancelLabel));
+    QToolButton *changed = ::key(stage.dialog(), u(currentKind().confirmLabel));
+    const QString label = changed->text();
+    const QImage picture = pictureOf(other);
+    for (const QString &text : { u("Bestätigen und weiter"), label }) {
+        PaintWatch watch(other);
+        changed->setText(text);
+        QVERIFY(watch.isPainted());
+        QCOMPARE(pictureOf(other) == picture, text == label);
+        QCOMPARE(complaintAbout(other, stylesFrame()), QString());
+    }
+}
+
+void tst_PaintedKeys::aDisabledKeyWithoutLabelIsPale_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("the style's colours") << 8;
+    QTest::newRow("the panel's colours") << 13;
+}
+
+void tst_PaintedKeys::aDisabledKeyWithoutLabelIsPale()
+{
+    QFETCH(int, type);
+    FaceStage stage(type, QSize(480, 272));
+    const QColor background = stage.dialog()->palette().color(QPalette::Window);
+    QToolButton *key = ::key(stage.dialog(), u(currentKind().confirmLabel));
+    key->setText(QString());
+    const int enabled = contrast(pictureOf(key), background);
+    key->setEnabled(false);
+    const int disabled = contrast(pictureOf(key), background);
+    QVERIFY2(disabled > 0 && 2 * disabled < enabled,
+             qPrintable(QString::fromLatin1("%1 instead of %2").arg(disabled).arg(enabled)));
 }
 
 void tst_PaintedKeys::anIconTakesTheLabelsPlace_data()

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void initTestCase_data();
     void everyLabelShowsItsText_data();
     void everyLabelShowsItsText();
+    void theLongestPinyinIsWhole_data();
+    void theLongestPinyinIsWhole();
     void everyStateShows_data();
     void everyStateShows();
     void whateverTheText_data();
@@ -47,7 +49,7 @@ void tst_PaintedLabels::initTestCase_data()
 
 void tst_PaintedLabels::everyLabelShowsItsText_data()
 {
-    addPanelRows();
+    addScreenRows();
 }
 
 void tst_PaintedLabels::everyLabelShowsItsText()
@@ -56,8 +58,28 @@ void tst_PaintedLabels::everyLabelShowsItsText()
     stage.fillLabels(u("主轴"));
     const QList<QLabel *> labels = stage.shownLabels();
     QCOMPARE(int(labels.size()), currentKind().has(FixedFace) ? 1 : 6);
-    for (QLabel *label : labels)
+    for (QLabel *label : labels) {
         QCOMPARE(complaintAbout(label, QMargins()), QString());
+        QVERIFY2(isWhole(label), qPrintable(label->objectName()));
+    }
+}
+
+void tst_PaintedLabels::theLongestPinyinIsWhole_data()
+{
+    addScreenRows();
+}
+
+void tst_PaintedLabels::theLongestPinyinIsWhole()
+{
+    if (currentKind().has(FixedFace) || !currentKind().has(TypesText))
+        return; // there is no pinyin
+    FaceStage stage;
+    stage.fillLabels(u("床"));
+    QLabel *pinyin = stage.dialog()->findChild<QLabel *>(u("pinyinLabel"));
+    pinyin->setText(u("zhuang"));
+    QApplication::processEvents();
+    QCOMPARE(complaintAbout(pinyin, QMargins()), QString());
+    QVERIFY(isWhole(pinyin));
 }
 
 void tst_PaintedLabels::everyStateShows_data()
