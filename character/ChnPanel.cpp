@@ -19,8 +19,8 @@ namespace {
 // What each part keeps where the panel is short of room, in pixels: enough for six letters, for one
 // character and for a finger.
 const int pinyinMinimumWidth = 48;
-const int candidateMinimumWidth = 18;
-const int pagingMinimumWidth = 26;
+const int candidateMinimumWidth = 20;
+const int pagingMinimumWidth = 24;
 
 // Candidates of any length leave the paging buttons their place.
 class PagingButton : public Keypad::KeyButton

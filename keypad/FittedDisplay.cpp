@@ -21,6 +21,8 @@ FittedDisplay::FittedDisplay(QWidget *parent)
 {
 }
 
+// The palette says how a disabled text looks. No style does something more to it, as it may do to
+// that of a label.
 void FittedDisplay::paintEvent(QPaintEvent *event)
 {
     QStyleOptionFrame option;

@@ -132,9 +132,9 @@ void tst_ChnPanel::partsKeepALittleRoom()
     panel.resize(480, 40);
     panel.show();
     for (short i = 0; i < 5; ++i)
-        QVERIFY(panel.getClickLabel(i)->width() >= 18);
+        QVERIFY(panel.getClickLabel(i)->width() >= 20);
     for (short i = 0; i < 2; ++i)
-        QVERIFY(panel.getToolButton(i)->width() >= 26);
+        QVERIFY(panel.getToolButton(i)->width() >= 24);
     QVERIFY(panel.getPinyinLabel()->width() >= 48);
 }
 
