@@ -80,6 +80,7 @@ private Q_SLOTS:
     void theDisplayLooksAsAnyLine_data();
     void theDisplayLooksAsAnyLine();
     void aMaskedValueStaysMasked();
+    void anEnabledDisplayIsAnyLine();
 };
 
 void tst_PaintedFields::everyFieldShowsAllDigits_data()
@@ -170,6 +171,19 @@ void tst_PaintedFields::aMaskedValueStaysMasked()
     stage.keypad.setPasswordEchoMode(true);
     QVERIFY(inkOfLine(stage.line()).picture != clear);
     QVERIFY(pixelSizeOf(stage.line()) > 0);
+}
+
+// What can be edited scrolls.
+void tst_PaintedFields::anEnabledDisplayIsAnyLine()
+{
+    ValueStage stage(8, QSize(240, 320));
+    stage.line()->setEnabled(true);
+    QLineEdit plain(stage.line()->text(), &stage.keypad);
+    plain.setFont(stage.line()->font());
+    plain.setAlignment(stage.line()->alignment());
+    plain.resize(stage.line()->size());
+    plain.ensurePolished();
+    QVERIFY(pictureOf(stage.line()) == pictureOf(&plain));
 }
 
 QTEST_MAIN(tst_PaintedFields)

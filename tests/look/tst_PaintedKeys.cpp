@@ -69,6 +69,8 @@ private Q_SLOTS:
     void whateverAnApplicationCallsIt_data();
     void whateverAnApplicationCallsIt();
     void theOthersFollowALabelThatGrows();
+    void sizesFollowFontAndSheet();
+    void aPressedKeyKeepsItsLabelInside();
     void aDisabledKeyWithoutLabelIsPale_data();
     void aDisabledKeyWithoutLabelIsPale();
     void anIconTakesTheLabelsPlace_data();
@@ -158,6 +160,48 @@ void tst_PaintedKeys::theOthersFollowALabelThatGrows()
         QVERIFY(watch.isPainted());
         QCOMPARE(pictureOf(other) == picture, text == label);
         QCOMPARE(complaintAbout(other, stylesFrame()), QString());
+    }
+}
+
+void tst_PaintedKeys::sizesFollowFontAndSheet()
+{
+    FaceStage stage(8, QSize(480, 272));
+    const QList<QToolButton *> keys = stage.shownKeys();
+    for (QToolButton *key : keys)
+        QCOMPARE(complaintAbout(key, stylesFrame()), QString());
+
+    QFont font(stage.dialog()->font());
+    font.setPixelSize(10);
+    keys.first()->setFont(font);
+    QCOMPARE(complaintAbout(keys.first(), stylesFrame()), QString());
+    keys.first()->setFont(stage.dialog()->font());
+
+    font.setPixelSize(60);
+    stage.dialog()->setFont(font);
+    for (QToolButton *key : keys)
+        QCOMPARE(complaintAbout(key, stylesFrame()), QString());
+
+    const int border = 9;
+    stage.dialog()->setStyleSheet(
+        QString::fromLatin1("QToolButton { border: %1px solid red }").arg(border));
+    for (QToolButton *key : keys)
+        QCOMPARE(complaintAbout(key, QMargins(border, border, border, border)), QString());
+}
+
+void tst_PaintedKeys::aPressedKeyKeepsItsLabelInside()
+{
+    const int border = 14;
+    FaceStage stage(8, QSize(480, 272));
+    stage.dialog()->setStyleSheet(u("QToolButton { border: 1px solid red }"
+                                    "QToolButton:pressed { border: %1px solid red }")
+                                      .arg(border));
+    const QList<QToolButton *> keys = stage.shownKeys();
+    for (QToolButton *key : keys) {
+        key->setDown(true);
+        const QRect ink = inkOf(key).rect;
+        QVERIFY(!ink.isEmpty());
+        QVERIFY(key->rect().adjusted(border, border, -border, -border).contains(ink));
+        key->setDown(false);
     }
 }
 

@@ -74,7 +74,7 @@ void tst_PaintedLabels::theLongestPinyinIsWhole()
     if (currentKind().has(FixedFace) || !currentKind().has(TypesText))
         return; // there is no pinyin
     FaceStage stage;
-    stage.fillLabels(u("床"));
+    stage.fillLabels(u("床前明月光")); // which takes all the room that it is left
     QLabel *pinyin = stage.dialog()->findChild<QLabel *>(u("pinyinLabel"));
     pinyin->setText(u("zhuang"));
     QApplication::processEvents();
