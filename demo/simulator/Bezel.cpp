@@ -58,11 +58,11 @@ Bezel::Bezel(PanelRunner *panel, const QVector<Model> &models, QWidget *parent)
     layout->setSpacing(spacing);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(m_plate, 0, 0);
-    layout->addWidget(m_legend, 0, 0, Qt::AlignRight);
+    layout->addWidget(m_legend, 0, 1);
     layout->addWidget(m_screen, 1, 0);
     layout->addLayout(m_keyboard, 1, 1);
     layout->addLayout(m_functionKeys, 2, 0);
-    m_legend->setText(QString::fromUtf8("● handed on to the application"));
+    m_legend->setText(QString::fromUtf8("● the application’s keys"));
     m_legend->hide();
     connect(panel, SIGNAL(changed()), SLOT(takeModel()));
 }

@@ -41,7 +41,7 @@ Chooser::Chooser(const QVector<Model> &models, QWidget *parent)
     : QWidget(parent)
     , m_parts(new QWidget(this))
     , m_list(new QTreeWidget(m_parts))
-    , m_frame(new QCheckBox(QLatin1String("frame of the view"), m_parts))
+    , m_frame(new QCheckBox(QLatin1String("around the view"), m_parts))
     , m_hint(new QLabel(QLatin1String("Locked while a keypad is open"), this))
     , m_showing(false)
 {
@@ -62,7 +62,7 @@ Chooser::Chooser(const QVector<Model> &models, QWidget *parent)
     for (const auto &style : styles)
         m_style->addItem(QLatin1String(style.label), int(style.style));
     m_frame->setObjectName(QLatin1String("frame"));
-    form->addRow(QString(), m_frame);
+    form->addRow(QLatin1String("Frame"), m_frame);
 
     QVBoxLayout *parts = new QVBoxLayout(m_parts);
     parts->setContentsMargins(0, 0, 0, 0);
@@ -127,6 +127,7 @@ QSpinBox *Chooser::createSide(const char *name)
     QSpinBox *side = new QSpinBox(m_parts);
     side->setObjectName(QLatin1String(name));
     side->setRange(leastSide, mostSide);
+    side->setButtonSymbols(QAbstractSpinBox::NoButtons);
     side->setKeyboardTracking(false); // a number that is half typed is no choice
     return side;
 }

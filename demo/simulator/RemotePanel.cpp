@@ -141,17 +141,24 @@ void RemotePanel::begin(QDataStream *stream)
 }
 
 // As Qt does with the mouse of a screen: the window under the point gets the press, and what
-// follows until the release. A modal keypad keeps the others' events off by itself.
+// follows until the release. A modal keypad keeps the others' events off by itself. A double click
+// without a press before it would have no release.
 void RemotePanel::deliverMouse(const Protocol::MouseInput &input)
 {
     if (!m_panel)
         return;
     QWidget *window = m_pressed ? m_pressed.data() : windowAt(input.place);
     m_pressed = input.buttons ? window : nullptr;
+    if (input.type == QEvent::MouseButtonDblClick)
+        sendMouse(QEvent::MouseButtonPress, input, window);
+    sendMouse(input.type, input, window);
+}
+
+void RemotePanel::sendMouse(QEvent::Type type, const Protocol::MouseInput &input, QWidget *window)
+{
     const QPoint onWindow = input.place - placeOn(m_panel->view(), window);
-    QMouseEvent event(input.type, onWindow, window->mapToGlobal(onWindow),
-                      Qt::MouseButton(input.button), Qt::MouseButtons(input.buttons),
-                      Qt::NoModifier);
+    QMouseEvent event(type, onWindow, window->mapToGlobal(onWindow), Qt::MouseButton(input.button),
+                      Qt::MouseButtons(input.buttons), Qt::NoModifier);
     QCoreApplication::sendEvent(window->windowHandle(), &event);
 }
 

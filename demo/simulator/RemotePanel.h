@@ -41,6 +41,7 @@ private Q_SLOTS:
 private:
     void begin(QDataStream *stream);
     void deliverMouse(const Protocol::MouseInput &input);
+    void sendMouse(QEvent::Type type, const Protocol::MouseInput &input, QWidget *window);
     void deliverKey(const Protocol::KeyInput &input);
     QWidget *windowAt(const QPoint &place) const;
     QImage picture() const;

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 
 namespace {
@@ -111,9 +112,11 @@ void Simulator::lockChooser()
 void Simulator::fitToScreen()
 {
     const int handle = m_splitter->handleWidth();
-    const QSize panel = m_bezel->size() + QSize(handle + 2 * margin, 2 * margin);
-    const QSize wanted(panel.width() + sideWidth, qMax(panel.height(), leastHeight));
     const QSize room = QApplication::primaryScreen()->availableSize() - frame;
+    QSize panel = m_bezel->size() + QSize(handle + 2 * margin, 2 * margin);
+    if (panel.height() > room.height())
+        panel.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
+    const QSize wanted(panel.width() + sideWidth, qMax(panel.height(), leastHeight));
     if (!isMaximized() && !isFullScreen())
         resize(wanted.boundedTo(room));
     const int side = qBound(leastSideWidth, width() - panel.width(), sideWidth);
