@@ -42,7 +42,7 @@ private:
     QString drawExhibit(const KeypadKind &keypad, const Face &face, bool upright);
     void drawSizes(Exhibit *exhibit, const Look &look, const Language &language);
     QString save(Exhibit *exhibit);
-    QString save(const Picture &picture);
+    QString save(Picture *picture);
     QString drawPlates();
     QString addPlate(const char *name, const char *title, const QImage &image);
 
@@ -129,7 +129,7 @@ void Artist::drawSizes(Exhibit *exhibit, const Look &look, const Language &langu
             }
         }
         if (!isKnown)
-            exhibit->pictures.append({ QString(), image, look, { language } });
+            exhibit->pictures.append({ QString(), image.size(), image, look, { language } });
     }
 }
 
@@ -139,21 +139,23 @@ QString Artist::save(Exhibit *exhibit)
         picture.file =
             QString::fromLatin1("%1-%2-%3x%4-%5-%6.png")
                 .arg(QLatin1String(exhibit->keypad->name), QLatin1String(exhibit->face->name))
-                .arg(picture.image.width())
-                .arg(picture.image.height())
+                .arg(picture.size.width())
+                .arg(picture.size.height())
                 .arg(QLatin1String(picture.look.name),
                      QLatin1String(picture.languages.first().name));
-        const QString complaint = save(picture);
+        const QString complaint = save(&picture);
         if (!complaint.isEmpty())
             return complaint;
     }
     return QString();
 }
 
-QString Artist::save(const Picture &picture)
+QString Artist::save(Picture *picture)
 {
     ++m_pictures;
-    return m_folder.addPicture(picture.file, picture.image);
+    const QString complaint = m_folder.addPicture(picture->file, picture->image);
+    picture->image = QImage(); // all together would take hundreds of megabytes
+    return complaint;
 }
 
 QString Artist::drawPlates()
@@ -174,8 +176,8 @@ QString Artist::addPlate(const char *name, const char *title, const QImage &imag
     if (image.isNull())
         return QString::fromLatin1("no picture came for \"%1\"").arg(QLatin1String(title));
     const QString file = QLatin1String(name) + QLatin1String(".png");
-    m_plates.append({ name, title, { file, image, {}, {} } });
-    return save(m_plates.last().picture);
+    m_plates.append({ name, title, { file, image.size(), image, {}, {} } });
+    return save(&m_plates.last().picture);
 }
 
 } // namespace

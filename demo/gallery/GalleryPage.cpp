@@ -250,7 +250,7 @@ void Page::writeRowTitle(const Picture &picture)
 
 void Page::writeFigure(const Exhibit &exhibit, const Picture &picture)
 {
-    const QSize size = picture.image.size();
+    const QSize size = picture.size;
     m_xml.writeStartElement(tag("figure"));
     m_xml.writeAttribute(tag("data-face"), faceName(exhibit));
     m_xml.writeAttribute(tag("data-look"), QLatin1String(picture.look.name));
@@ -265,7 +265,7 @@ void Page::writeFigure(const Exhibit &exhibit, const Picture &picture)
 
 void Page::writeImage(const Picture &picture, const QString &text)
 {
-    const QSize size = picture.image.size();
+    const QSize size = picture.size;
     m_xml.writeStartElement(tag("a"));
     m_xml.writeAttribute(tag("href"), picture.file);
     m_xml.writeEmptyElement(tag("img"));

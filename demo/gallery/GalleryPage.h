@@ -11,7 +11,8 @@
 struct Picture
 {
     QString file;
-    QImage image;
+    QSize size;
+    QImage image; // until it is in the file
     Look look;
     QVector<Language> languages; // that it is the same in
 };
