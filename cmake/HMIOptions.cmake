@@ -13,6 +13,11 @@ if(NOT DEFINED BUILD_SHARED_LIBS)
     set(BUILD_SHARED_LIBS ON)
 endif()
 
+# Debian packages hold shared libraries, for a Qt that Debian has.
+set(HMI_HAS_PACKAGES ${HMI_TOP_LEVEL})
+if(NOT BUILD_SHARED_LIBS OR HMI_QT_MAJOR EQUAL 4)
+    set(HMI_HAS_PACKAGES OFF)
+endif()
 set(HMI_NAME_SUFFIX "" CACHE STRING "Added to the names of the libraries and of their data's folder")
 
 option(HMI_WERROR "Treat warnings as errors" OFF)
