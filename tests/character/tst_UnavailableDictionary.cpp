@@ -110,35 +110,6 @@ private:
     int m_watch;
 };
 
-// What a writer leaves behind that is killed in the middle of its work: a file that has been
-// changed in part, and the journal that tells what was there.
-struct Ruins
-{
-    QByteArray file, journal;
-};
-
-Ruins leaveInTheMiddle()
-{
-    const QString name = u("crashed writer");
-    Ruins ruins;
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(u("QSQLITE"), name);
-        database.setDatabaseName(DictionaryFile::path());
-        database.open();
-        QSqlQuery query(database);
-        query.exec(u("PRAGMA cache_size = 1")); // pages; what is more is written at once
-        query.exec(u("BEGIN"));
-        query.exec(u("UPDATE pinyin SET word = hex(zeroblob(5000))"));
-        QFile journal(DictionaryFile::path() + u("-journal"));
-        if (journal.open(QIODevice::ReadOnly))
-            ruins.journal = journal.readAll();
-        ruins.file = DictionaryFile::bytes();
-        query.exec(u("ROLLBACK"));
-    }
-    QSqlDatabase::removeDatabase(name);
-    return ruins;
-}
-
 // How long the keypad's connection waits for a writer, in milliseconds: SQLite's own way is to hold
 // up a key for seconds.
 int longestWait()
@@ -213,14 +184,11 @@ void tst_UnavailableDictionary::noWritePermission()
 void tst_UnavailableDictionary::aFileWhoseWriterCrashedIsMended()
 {
     const QByteArray before = DictionaryFile::bytes();
-    const Ruins ruins = leaveInTheMiddle();
+    const Ruins ruins = DictionaryFile::ruinsOfAWriter();
     QVERIFY(ruins.file != before && !ruins.journal.isEmpty());
     QCOMPARE(DictionaryFile::bytes(), before);
     CHECKED(m_dictionary->setBytes(ruins.file));
-    QFile journal(DictionaryFile::path() + u("-journal"));
-    QVERIFY(journal.open(QIODevice::WriteOnly));
-    QCOMPARE(journal.write(ruins.journal), qint64(ruins.journal.size()));
-    journal.close();
+    CHECKED(m_dictionary->setJournal(ruins.journal));
 
     DictionarySession session;
     session.type("CN n");

@@ -38,6 +38,19 @@ QString connectionName()
     return u("dictionary of the test");
 }
 
+QString journalPath()
+{
+    return DictionaryFile::path() + u("-journal");
+}
+
+// Keeps a file where it is, if there is one.
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
 void executeIn(QSqlDatabase database, const QStringList &statements)
 {
     QVERIFY2(database.open(), qPrintable(database.lastError().text()));
@@ -101,9 +114,39 @@ void DictionaryFile::remove()
 void DictionaryFile::setBytes(const QByteArray &bytes)
 {
     remove();
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    CHECKED(write(path(), bytes));
+}
+
+Ruins DictionaryFile::ruinsOfAWriter()
+{
+    const QString name = u("crashed writer");
+    Ruins ruins;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u("QSQLITE"), name);
+        database.setDatabaseName(path());
+        database.open();
+        QSqlQuery query(database);
+        query.exec(u("PRAGMA cache_size = 1")); // pages; what is more is written at once
+        query.exec(u("BEGIN"));
+        query.exec(u("UPDATE pinyin SET word = hex(zeroblob(5000))"));
+        QFile journal(journalPath());
+        if (journal.open(QIODevice::ReadOnly))
+            ruins.journal = journal.readAll();
+        ruins.file = bytes();
+        query.exec(u("ROLLBACK"));
+    }
+    QSqlDatabase::removeDatabase(name);
+    return ruins;
+}
+
+void DictionaryFile::overwrite(const QByteArray &bytes)
+{
+    CHECKED(write(path(), bytes));
+}
+
+void DictionaryFile::setJournal(const QByteArray &bytes)
+{
+    CHECKED(write(journalPath(), bytes));
 }
 
 void DictionaryFile::create(const QList<DictionaryRow> &rows)

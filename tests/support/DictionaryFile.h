@@ -15,6 +15,13 @@ struct DictionaryRow
 // Everyday syllables: "ni" has three pages, "hao" exactly one, "zhu" one and a single candidate.
 QList<DictionaryRow> everydayWords();
 
+// What a writer leaves behind that is killed in the middle of its work: a file that has been
+// changed in part, and the journal that tells what was there.
+struct Ruins
+{
+    QByteArray file, journal;
+};
+
 // The pinyin dictionary beside the test program, where a keypad looks for it. At first there is
 // none, and none is left when this goes. What writes it asserts that it can.
 class DictionaryFile
@@ -38,6 +45,14 @@ public:
 
     // Makes a dictionary of \a rows, in their order.
     void create(const QList<DictionaryRow> &rows);
+
+    // What would be left of the dictionary, which stays as it is.
+    static Ruins ruinsOfAWriter();
+
+    // Writes \a bytes over the dictionary as it lies, which a keypad may have open.
+    void overwrite(const QByteArray &bytes);
+
+    void setJournal(const QByteArray &bytes);
 
     // Executes \a statements in the dictionary, one after the other, in one transaction.
     void execute(const QStringList &statements);
