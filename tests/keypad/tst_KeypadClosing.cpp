@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/AnyKeypad.h"
+#include "support/MessageLog.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
@@ -95,6 +96,7 @@ private Q_SLOTS:
     void cancellingWritesNothing_data();
     void cancellingWritesNothing();
     void cancellingNeedsNoTarget();
+    void anOpenKeypadIsNotOpenedAgain();
 };
 
 void tst_KeypadClosing::initTestCase_data()
@@ -315,6 +317,25 @@ void tst_KeypadClosing::cancellingNeedsNoTarget()
     const QScopedPointer<AnyKeypad> keypad(currentKind().create(&view, Qt::WindowFlags()));
     CHECKED(execWhile(
         keypad->dialog(), [&] { CHECKED(keypad->cancel()); }, Rejects));
+}
+
+void tst_KeypadClosing::anOpenKeypadIsNotOpenedAgain()
+{
+    AnyStage stage;
+    stage.target.setText(u("before"));
+    stage.keypad.setText(u(currentKind().sampleText));
+    int result = QDialog::Rejected;
+    QStringList messages;
+    const auto openAgain = [&] {
+        const MessageLog log;
+        result = stage.dialog()->exec();
+        messages = log.messages();
+        QVERIFY(stage.dialog()->isVisible());
+    };
+    CHECKED(execWhile(stage.dialog(), openAgain, StaysOpen));
+    QCOMPARE(result, -1);
+    QCOMPARE(messages, QStringList(u("QDialog::exec: Recursive call detected")));
+    QCOMPARE(stage.target.text(), u("before"));
 }
 
 QTEST_MAIN(tst_KeypadClosing)
