@@ -129,27 +129,29 @@ class End(unittest.TestCase):
             holdings = screen.holdings()
             self.assertGreaterEqual(len(holdings.left()), 5)
             act(screen)
-            self.assertEqual(status, screen.status(), screen.said())
+            self.assertIn(screen.status(), status, screen.said())
             self.assert_nothing_left(holdings)
 
     def test_interrupted(self):
         for way in "web", "vnc":
             with self.subTest(way):
-                self.end_by(way, VirtualScreen.interrupt, 130)
+                self.end_by(way, VirtualScreen.interrupt, [130])
 
     def test_terminated(self):
-        self.end_by("web", lambda screen: screen.process.send_signal(signal.SIGTERM), 143)
+        self.end_by("web", lambda screen: screen.process.send_signal(signal.SIGTERM), [143])
 
     def test_terminal_closed(self):
-        self.end_by("web", lambda screen: screen.process.send_signal(signal.SIGHUP), 129)
+        self.end_by("web", lambda screen: screen.process.send_signal(signal.SIGHUP), [129])
 
     def test_server_ended(self):
-        for name in "websockify", "Xtigervnc":
+        # Without its display the program ends as well, and may be noticed first.
+        for name, status in (("websockify", [1]), ("Xtigervnc", range(1, 256))):
             with self.subTest(name):
-                self.end_by("web", lambda screen, name=name: os.kill(screen.find_process(name), signal.SIGTERM), 1)
+                self.end_by("web", lambda screen, name=name: os.kill(screen.find_process(name), signal.SIGTERM),
+                            status)
 
     def test_script_killed(self):
-        self.end_by("web", lambda screen: screen.process.kill(), -signal.SIGKILL)
+        self.end_by("web", lambda screen: screen.process.kill(), [-signal.SIGKILL])
 
     def test_program_ended(self):
         with VirtualScreen(program=("sh", "-c", "exit 7")) as screen:
