@@ -18,6 +18,7 @@ set(HMI_DATA_DIR ${CMAKE_INSTALL_DATADIR}/HMIDevice${HMI_NAME_SUFFIX})
 set(HMI_PROGRAM_DIR ${CMAKE_INSTALL_LIBEXECDIR}/HMIDevice)
 
 set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON) # to a Qt outside the system's directories, else nothing
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON) # else the length of this folder's name stays in what is installed
 if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     set(HMI_LIBRARY_RPATH "")
     set(HMI_PROGRAM_RPATH "")
