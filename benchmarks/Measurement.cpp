@@ -8,6 +8,10 @@
 #include <algorithm>
 #include <vector>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace {
 
 double microseconds(const std::function<void()> &operation)
@@ -48,4 +52,17 @@ long residentMemory()
         return 0;
     const QRegularExpression line(QLatin1String("VmRSS:\\s+(\\d+) kB"));
     return line.match(QString::fromLatin1(status.readAll())).captured(1).toLong();
+}
+
+long allocatedMemory()
+{
+#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
+    const auto heap = mallinfo2();
+    return long((heap.uordblks + heap.hblkhd) / 1024);
+#elif defined(__GLIBC__)
+    const auto heap = mallinfo();
+    return long((unsigned(heap.uordblks) + unsigned(heap.hblkhd)) / 1024);
+#else
+    return 0;
+#endif
 }

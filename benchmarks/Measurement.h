@@ -18,4 +18,7 @@ Comparison compare(const std::function<void()> &library, const std::function<voi
 // The process's resident memory in KiB, or 0 where the system does not tell.
 long residentMemory();
 
+// What is allocated on the heap in KiB, or 0 where the C library does not tell.
+long allocatedMemory();
+
 #endif

@@ -118,6 +118,7 @@ void compareLetters(const QStringList &letters)
 void reportMemory()
 {
     const long before = residentMemory();
+    const long allocatedBefore = allocatedMemory();
     const std::unique_ptr<QWidget> keypads[] = {
         std::unique_ptr<QWidget>(new NumericKeypad(nullptr, Qt::WindowFlags())),
         std::unique_ptr<QWidget>(new GCodeKeypad(nullptr, Qt::WindowFlags())),
@@ -126,7 +127,8 @@ void reportMemory()
         std::unique_ptr<QWidget>(new CharacterKeypad(nullptr, Qt::WindowFlags())),
     };
     QTextStream(stdout) << "The first five keypads take " << residentMemory() - before
-                        << " KiB of memory, with what Qt loads for them\n";
+                        << " KiB of memory, with what Qt loads for them, "
+                        << allocatedMemory() - allocatedBefore << " KiB of it on the heap\n";
 }
 
 } // namespace

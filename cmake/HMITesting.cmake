@@ -19,8 +19,9 @@ function(hmi_set_test_surroundings)
     endif()
     set(seconds 300)
     if(HMI_EMULATOR)
-        list(APPEND surroundings "HMI_EMULATOR=${HMI_EMULATOR}")
         set(seconds 1800)
+        list(APPEND surroundings
+            "HMI_EMULATOR=${HMI_EMULATOR}" QTEST_FUNCTION_TIMEOUT=${seconds}000)
     endif()
     set_tests_properties(${ARGN} PROPERTIES
         TIMEOUT ${seconds} ENVIRONMENT "${surroundings}")
