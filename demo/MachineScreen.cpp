@@ -195,6 +195,8 @@ void MachineScreen::showPage()
     const QString label = m_softKeys->checkedButton()->text();
     m_title->setText(QString(label).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     showMessage(QString());
+    if (!HMIDeviceInfo::isTouchScreen()) // Return has to find a field
+        m_pages->currentWidget()->findChild<TouchField *>()->setFocus();
 }
 
 // The pages

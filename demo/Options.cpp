@@ -42,8 +42,9 @@ Options readOptions(const QStringList &arguments)
     options.panel.size = readSize(values.value(QLatin1String("size")));
     options.panel.rotation = values.value(QLatin1String("rotate")).toInt();
     options.panel.language = checkLanguage(values.value(QLatin1String("language")));
-    options.panel.style =
-        values.value(QLatin1String("scheme")) == QLatin1String("light") ? Style::Light : Style::Dark;
+    options.panel.style = values.value(QLatin1String("scheme")) == QLatin1String("light")
+        ? Style::Light
+        : Style::Dark;
     options.panel.frame = values.contains(QLatin1String("frame"));
     options.screenAlone = values.contains(QLatin1String("panel"));
     if (values.contains(script))

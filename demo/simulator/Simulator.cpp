@@ -97,10 +97,13 @@ void Simulator::changePanel()
     m_panel.start(m_chooser->setup());
 }
 
+// A panel of the same size leaves the window as the user has made it.
 void Simulator::takePanel()
 {
+    const QSize before = m_bezel->size();
     m_bezel->adjustSize();
-    fitToScreen();
+    if (!isVisible() || m_bezel->size() != before)
+        fitToScreen();
 }
 
 void Simulator::lockChooser()

@@ -46,7 +46,9 @@ private Q_SLOTS:
     void quickTapsAreAllTyped();
     void theChooserIsLockedWhileAKeypadIsOpen();
     void aHardKeyReachesAnOpenKeypad();
+    void aPanelWithoutTouchScreenIsWorkedByItsKeysAlone();
     void theComputersKeysReachThePanel();
+    void aChangeOfTheSameSizeLeavesTheWindow();
     void everyKeyThatIsHandedOnIsMarked();
     void aModelWithoutKeysHasNone();
     void aHandedOnKeyClosesTheKeypad();
@@ -215,12 +217,43 @@ void tst_Simulator::aHardKeyReachesAnOpenKeypad()
     WAIT_FOR(stage.text(u("Z")) == u("-40.5"));
 }
 
+void tst_Simulator::aPanelWithoutTouchScreenIsWorkedByItsKeysAlone()
+{
+    SimulatorStage stage(panelOf(1));
+    WAIT_FOR(stage.isReady());
+    stage.pressHardKeys("↓ ENTER");
+    WAIT_FOR(stage.panel().isKeypadOpen());
+    stage.pressHardKeys("8 ENTER");
+    WAIT_FOR(stage.text(u("Y")) == u("8"));
+    stage.pressHardKeys("F4 ENTER");
+    WAIT_FOR(stage.panel().isKeypadOpen());
+    stage.pressHardKeys("B 0 ENTER");
+    WAIT_FOR(stage.text(u("parameter")) == u("B0"));
+}
+
 void tst_Simulator::theComputersKeysReachThePanel()
 {
     const SimulatorStage stage;
     WAIT_FOR(stage.isReady());
     QTest::keyClick(stage.screen(), Qt::Key_F3);
     WAIT_FOR(stage.panel().state().page == u("OFFSET"));
+}
+
+void tst_Simulator::aChangeOfTheSameSizeLeavesTheWindow()
+{
+    SimulatorStage stage(panelOf(8));
+    WAIT_FOR(stage.isReady());
+    QWidget *window = stage.screen()->window();
+    const QSize fitting = window->size();
+    window->resize(fitting - QSize(40, 30));
+    PanelSetup light = panelOf(8);
+    light.style = Style::Light;
+    stage.choose(light);
+    WAIT_FOR(stage.panel().setup().style == Style::Light);
+    QCOMPARE(window->size(), fitting - QSize(40, 30));
+    stage.choose(panelOf(9));
+    WAIT_FOR(stage.panel().setup().type == 9);
+    QVERIFY(window->size() != fitting - QSize(40, 30));
 }
 
 void tst_Simulator::everyKeyThatIsHandedOnIsMarked()
