@@ -38,5 +38,8 @@ endif()
 
 find_program(HMI_BOARD_EMULATOR ${board_emulator})
 if(HMI_BOARD_EMULATOR)
-    set(CMAKE_CROSSCOMPILING_EMULATOR ${HMI_BOARD_EMULATOR} -L "${HMI_BOARD_ROOT}")
+    # QEMU 7.2 does not look into the root for faccessat2(), by which programs for 64-bit ARM ask
+    # whether Qt's folder of plugins is there: Qt is told where that is.
+    set(CMAKE_CROSSCOMPILING_EMULATOR ${HMI_BOARD_EMULATOR} -L "${HMI_BOARD_ROOT}"
+        -E "QT_PLUGIN_PATH=${HMI_BOARD_ROOT}/usr/lib/${board_triplet}/qt5/plugins")
 endif()
