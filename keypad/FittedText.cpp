@@ -38,10 +38,11 @@ QFont fittedFont(const QFont &font, const QString &text, int flags, const QSize 
     if (fits(needed, room))
         return font;
     const int pixelSize = QFontInfo(font).pixelSize();
+    const int least = qMin(pixelSize, smallestPixelSize);
     QFont smaller(font);
     for (int size = qMin(pixelSize, largestPixelSize(pixelSize, needed, room));; --size) {
-        smaller.setPixelSize(qMax(size, smallestPixelSize));
-        if (size <= smallestPixelSize || fits(sizeOf(text, smaller, flags), room))
+        smaller.setPixelSize(qMax(size, least));
+        if (size <= least || fits(sizeOf(text, smaller, flags), room))
             return smaller;
     }
 }

@@ -58,15 +58,23 @@ int KeyButton::wholeLabelSize() const
     const QSize room = labelRoom();
     if (fits(sizeOf(label(), font(), labelFlags), room))
         return anySize;
-    return fittedFont(font(), label(), labelFlags, room).pixelSize();
+    const QFont smaller = fittedFont(font(), label(), labelFlags, room);
+    return fits(sizeOf(label(), smaller, labelFlags), room) ? smaller.pixelSize() : int(noSize);
 }
 
 bool KeyButton::event(QEvent *event)
 {
-    const QEvent::Type type = event->type();
-    if (m_sizes
-        && (type == QEvent::Resize || type == QEvent::FontChange || type == QEvent::StyleChange))
-        m_sizes->forget(this);
+    switch (event->type()) {
+    case QEvent::Resize:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::EnabledChange: // a style sheet can give a disabled key another border
+        if (m_sizes)
+            m_sizes->forget(this);
+        break;
+    default:
+        break;
+    }
     return QToolButton::event(event);
 }
 
@@ -102,12 +110,15 @@ void KeyButton::paintEvent(QPaintEvent *event)
 }
 
 // At which the label is drawn. It may have less room now than when it was measured: a style sheet
-// can give a pressed key another border.
+// can give a pressed key another border, too.
 int KeyButton::labelSize() const
 {
     if (label().isEmpty())
         return anySize;
-    return m_sizes ? qMin(wholeLabelSize(), m_sizes->sharedSize(this)) : wholeLabelSize();
+    const int size = wholeLabelSize();
+    if (size == noSize)
+        return fittedFont(font(), label(), labelFlags, labelRoom()).pixelSize();
+    return m_sizes ? qMin(size, m_sizes->sharedSize(this)) : size;
 }
 
 bool KeyButton::isBlank() const

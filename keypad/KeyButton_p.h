@@ -16,7 +16,7 @@ class LabelSizes;
 class KeyButton : public QToolButton
 {
 public:
-    enum { anySize = INT_MAX };
+    enum { noSize = 0, anySize = INT_MAX };
 
     explicit KeyButton(QWidget *parent);
     ~KeyButton() override;
@@ -30,7 +30,8 @@ public:
     // The text, or nothing where an icon takes its place.
     QString label() const;
 
-    // The largest size in pixels at which the label is whole; anySize where the font's will do.
+    // The largest size in pixels at which the label is whole; anySize where the font's will do, noSize
+    // where none does that can be read.
     int wholeLabelSize() const;
 
 protected:

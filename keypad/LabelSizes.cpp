@@ -58,6 +58,11 @@ Group &groupOf(const KeyButton *key, QVector<Group> *groups)
 
 } // namespace
 
+LabelSizes::LabelSizes()
+    : m_isComplete(false)
+{
+}
+
 void LabelSizes::add(KeyButton *key)
 {
     const Member member = { key, QString(), false, KeyButton::anySize, unknownSize };
@@ -67,6 +72,9 @@ void LabelSizes::add(KeyButton *key)
 void LabelSizes::remove(KeyButton *key)
 {
     m_members.remove(placeOf(key));
+    m_isComplete = false;
+    for (int i = 0; i < m_members.size(); ++i)
+        m_members.at(i).key->update();
 }
 
 void LabelSizes::forget(const KeyButton *key)
@@ -76,7 +84,7 @@ void LabelSizes::forget(const KeyButton *key)
 
 int LabelSizes::sharedSize(const KeyButton *key)
 {
-    bool isChanged = false;
+    bool isChanged = !m_isComplete;
     for (int i = 0; i < m_members.size(); ++i) {
         if (measure(&m_members[i]))
             isChanged = true;
@@ -111,10 +119,12 @@ bool LabelSizes::measure(Member *member)
 
 void LabelSizes::share()
 {
+    m_isComplete = true;
     QVector<Group> groups;
     for (int i = 0; i < m_members.size(); ++i) {
         Group &group = groupOf(m_members.at(i).key, &groups);
-        group.size = qMin(group.size, m_members.at(i).wholeSize);
+        if (m_members.at(i).wholeSize != KeyButton::noSize)
+            group.size = qMin(group.size, m_members.at(i).wholeSize);
     }
     for (int i = 0; i < m_members.size(); ++i) {
         Member &member = m_members[i];

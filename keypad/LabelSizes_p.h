@@ -13,10 +13,12 @@ class KeyButton;
 
 // The sizes at which the keys of one keypad draw labels that do not fit. Keys in the same font that
 // show one character share one size, and so do those that show a word: sizes that follow the width
-// of each label look ragged.
+// of each label look ragged. A key that has no room for its label at any size is left out.
 class LabelSizes
 {
 public:
+    LabelSizes();
+
     void add(KeyButton *key);
     void remove(KeyButton *key);
 
@@ -41,6 +43,7 @@ private:
     void share();
 
     QVector<Member> m_members;
+    bool m_isComplete; // no member has gone since the sizes were shared
 };
 
 // Lets all keys that \a keypad has by now share their sizes.

@@ -89,6 +89,16 @@ void shrink(Twin *twin, int pixels, int flags, const QSize &room)
         twin->setText(metrics.elidedText(twin->text(), Qt::ElideRight, room.width(), flags));
 }
 
+int largestPixelSize(int most, const QToolButton *key, const QMargins &around)
+{
+    return largestPixelSize(most, key->font(), key->text(), keyFlags, roomIn(key, around));
+}
+
+bool fitsAt(int pixels, const QToolButton *key, const QMargins &around)
+{
+    return fitsAt(pixels, key->font(), key->text(), keyFlags, roomIn(key, around));
+}
+
 // Whether a label is more than one character to a reader. "&&" is one ampersand.
 bool showsWord(const QToolButton *key)
 {
@@ -101,16 +111,21 @@ bool isSameFont(const QFont &a, const QFont &b)
     return a == b || a.toString() == b.toString();
 }
 
-// Keys in the same font that show one character have one size, and so have those that show a word.
+// Keys in the same font that show one character have one size, and so have those that show a word;
+// but for labels that cannot be whole.
 int sharedPixelSize(const QToolButton *key, const QMargins &around)
 {
-    int size = pixelSizeOf(key);
+    int size = largestPixelSize(pixelSizeOf(key), key, around);
+    if (!fitsAt(size, key, around))
+        return size;
     const QList<QToolButton *> keys = key->window()->findChildren<QToolButton *>();
     for (const QToolButton *other : keys) {
         if (other->isVisible() && !other->text().isEmpty() && showsWord(other) == showsWord(key)
-            && isSameFont(other->font(), key->font()))
-            size = largestPixelSize(size, other->font(), other->text(), keyFlags,
-                                    roomIn(other, around));
+            && isSameFont(other->font(), key->font())) {
+            const int othersSize = largestPixelSize(size, other, around);
+            if (fitsAt(othersSize, other, around))
+                size = othersSize;
+        }
     }
     return size;
 }
@@ -289,8 +304,7 @@ QString complaintAbout(QToolButton *key, const QMargins &around)
 
 bool isWhole(const QToolButton *key, const QMargins &around)
 {
-    return fitsAt(sharedPixelSize(key, around), key->font(), key->text(), keyFlags,
-                  roomIn(key, around));
+    return fitsAt(sharedPixelSize(key, around), key, around);
 }
 
 bool isWhole(const QLabel *label)

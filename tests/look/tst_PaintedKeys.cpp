@@ -39,6 +39,12 @@ private:
     bool m_isPainted;
 };
 
+// A label that a key can only show in letters that are hardly readable.
+QString longLabelFor(const QToolButton *key)
+{
+    return QString(key->width() / 6, QLatin1Char('n'));
+}
+
 // The largest difference to the background in any of the three colours.
 int contrast(const QImage &picture, const QColor &background)
 {
@@ -69,7 +75,10 @@ private Q_SLOTS:
     void whateverAnApplicationCallsIt_data();
     void whateverAnApplicationCallsIt();
     void theOthersFollowALabelThatGrows();
+    void theOthersFollowAKeyThatGoes();
+    void aKeyWithoutRoomIsNoMeasure();
     void sizesFollowFontAndSheet();
+    void sizesFollowWhatIsEnabled();
     void aPressedKeyKeepsItsLabelInside();
     void aDisabledKeyWithoutLabelIsPale_data();
     void aDisabledKeyWithoutLabelIsPale();
@@ -154,13 +163,38 @@ void tst_PaintedKeys::theOthersFollowALabelThatGrows()
     QToolButton *changed = ::key(stage.dialog(), u(currentKind().confirmLabel));
     const QString label = changed->text();
     const QImage picture = pictureOf(other);
-    for (const QString &text : { u("Bestätigen und weiter"), label }) {
+    for (const QString &text : { longLabelFor(changed), label }) {
         PaintWatch watch(other);
         changed->setText(text);
         QVERIFY(watch.isPainted());
         QCOMPARE(pictureOf(other) == picture, text == label);
         QCOMPARE(complaintAbout(other, stylesFrame()), QString());
     }
+}
+
+void tst_PaintedKeys::theOthersFollowAKeyThatGoes()
+{
+    FaceStage stage(8, QSize(480, 272));
+    QToolButton *other = ::key(stage.dialog(), u(currentKind().cancelLabel));
+    QToolButton *changed = ::key(stage.dialog(), u(currentKind().confirmLabel));
+    changed->setText(longLabelFor(changed));
+    QCOMPARE(complaintAbout(other, stylesFrame()), QString());
+    QApplication::processEvents();
+    PaintWatch watch(other);
+    delete changed;
+    QVERIFY(watch.isPainted());
+    QCOMPARE(complaintAbout(other, stylesFrame()), QString());
+}
+
+void tst_PaintedKeys::aKeyWithoutRoomIsNoMeasure()
+{
+    FaceStage stage(8, QSize(640, 480));
+    const QList<QToolButton *> keys = stage.shownKeys();
+    QToolButton *other = keys.at(1);
+    const QImage picture = pictureOf(other);
+    keys.at(2)->setStyleSheet(u("padding: 400px"));
+    QApplication::processEvents();
+    QVERIFY(pictureOf(other) == picture);
 }
 
 void tst_PaintedKeys::sizesFollowFontAndSheet()
@@ -186,6 +220,20 @@ void tst_PaintedKeys::sizesFollowFontAndSheet()
         QString::fromLatin1("QToolButton { border: %1px solid red }").arg(border));
     for (QToolButton *key : keys)
         QCOMPARE(complaintAbout(key, QMargins(border, border, border, border)), QString());
+}
+
+void tst_PaintedKeys::sizesFollowWhatIsEnabled()
+{
+    FaceStage stage(8, QSize(480, 272));
+    stage.dialog()->setStyleSheet(u("QToolButton { border: 1px solid red }"
+                                    "QToolButton:disabled { border: 6px solid red }"));
+    const QList<QToolButton *> keys = stage.shownKeys();
+    QToolButton *other = keys.at(0);
+    const QImage picture = pictureOf(other);
+    keys.at(1)->setEnabled(false);
+    QVERIFY(pictureOf(other) != picture);
+    keys.at(1)->setEnabled(true);
+    QVERIFY(pictureOf(other) == picture);
 }
 
 void tst_PaintedKeys::aPressedKeyKeepsItsLabelInside()
