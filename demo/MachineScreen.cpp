@@ -367,7 +367,7 @@ QWidget *MachineScreen::createRow(const char *name, QWidget *belowLabel)
     const int row = m_upright ? 2 : 0;
     const int column = m_upright ? 0 : 1;
     const int rows = m_upright ? 1 : 2;
-    grid->addWidget(createField(name, m_unit, card), row, column, rows, 1);
+    grid->addWidget(createField(name, m_unit * 9 / 10, card), row, column, rows, 1);
     if (rule.unit) {
         QLabel *unit = createLabel(rule.unit, card);
         unit->setFixedWidth(m_unit * 3 / 2);
