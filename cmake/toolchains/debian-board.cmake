@@ -42,4 +42,8 @@ if(HMI_BOARD_EMULATOR)
     # whether Qt's folder of plugins is there: Qt is told where that is.
     set(CMAKE_CROSSCOMPILING_EMULATOR ${HMI_BOARD_EMULATOR} -L "${HMI_BOARD_ROOT}"
         -E "QT_PLUGIN_PATH=${HMI_BOARD_ROOT}/usr/lib/${board_triplet}/qt5/plugins")
+    if(EXISTS "${HMI_BOARD_ROOT}/etc/fonts/board.conf")
+        list(APPEND CMAKE_CROSSCOMPILING_EMULATOR
+            -E "FONTCONFIG_FILE=${HMI_BOARD_ROOT}/etc/fonts/board.conf")
+    endif()
 endif()
