@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
@@ -24,9 +25,18 @@ struct Run
     QString output, complaint;
 };
 
+// A copy of the program finds the library only where it is told to look.
+QProcessEnvironment surroundings()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u("LD_LIBRARY_PATH"), u(HMI_LIBRARY_FOLDER));
+    return environment;
+}
+
 Run draw(const QString &folder, const QString &program = u(HMI_DEMO))
 {
     QProcess process;
+    process.setProcessEnvironment(surroundings());
     process.start(program, { u("--gallery"), folder });
     const bool ended = process.waitForFinished(mostMilliseconds);
     return { ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
