@@ -41,7 +41,7 @@ const FieldRule fieldRules[] = {
 
     { "comment",   "程序注释 Comment",    nullptr,  "Flange 80 x 12", Keypad::Text, 10,
           nullptr,     nullptr,    nullptr,   24, false, false },
-    { "operator",  "操作员 Operator",     nullptr,  "Li Wei",   Keypad::Text,     10,
+    { "operator",  "操作员 Operator",     nullptr,  "Shift 1",  Keypad::Text,     10,
           nullptr,     nullptr,    nullptr,   16, false, false },
     { "date",      "日期 Date",           nullptr,  "2024-02-28", Keypad::DateTime, 10,
           nullptr,     nullptr,    nullptr,   10, false, false },

@@ -104,12 +104,12 @@ const Step programs[] = {
 const Step texts[] = {
     { Action::OpenPage,   "SYSTEM", nullptr, "system-page" },
     { Action::TapField,   "operator", nullptr, "character-keypad-opens" },
-    { Action::TapKeys,    "caps A", nullptr, nullptr },
-    { Action::TapKeys,    "CAPS n n a", nullptr, "operator-anna-typed" },
-    { Action::TapKeys,    "Space caps S CAPS m i t h", nullptr, "operator-typed-with-capitals" },
-    { Action::SeeEntry,   "Anna Smith", nullptr, nullptr },
+    { Action::TapKeys,    "caps L", nullptr, nullptr },
+    { Action::TapKeys,    "CAPS a t e", nullptr, "operator-late-typed" },
+    { Action::TapKeys,    "Space caps S CAPS h i f t", nullptr, "operator-typed-with-capitals" },
+    { Action::SeeEntry,   "Late Shift", nullptr, nullptr },
     { Action::TapKeys,    "Enter", nullptr, "operator-entered" },
-    { Action::SeeField,   "operator", "Anna Smith", nullptr },
+    { Action::SeeField,   "operator", "Late Shift", nullptr },
 
     { Action::TapField,   "comment", nullptr, nullptr },
     { Action::TapKeys,    "caps R CAPS o u g h Space *#", nullptr, "symbols-shown" },

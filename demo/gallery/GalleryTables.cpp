@@ -84,7 +84,7 @@ const QVector<Face> dateTimeFaces = {
 const QVector<Face> characterFaces = {
     { "english",     "English",                 "rough & finish #1", 10, 0, false,
            "",                          "",                   false },
-    { "capitals",    "Capitals",                "Anna Smith", 10, 0, false,
+    { "capitals",    "Capitals",                "Late Shift", 10, 0, false,
            "",                          "capsKey",            false },
     { "symbols",     "Symbols",                 "rough & finish #1", 10, 0, false,
            "",                          "symbolsKey",         false },
