@@ -14,4 +14,4 @@ add_custom_target(docs ALL
     COMMENT "Making the HTML manual"
     VERBATIM)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/manual/html
-    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT dev)
+    DESTINATION ${HMI_DOC_DIR} COMPONENT dev)

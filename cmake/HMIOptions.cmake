@@ -13,15 +13,20 @@ if(NOT DEFINED BUILD_SHARED_LIBS)
     set(BUILD_SHARED_LIBS ON)
 endif()
 
-# Debian packages hold shared libraries, for a Qt that Debian has.
+# Debian packages hold shared libraries, for a Qt that Debian has. CPack runs packaging/*.cmake from
+# CMake 3.19 on.
 set(HMI_HAS_PACKAGES ${HMI_TOP_LEVEL})
-if(NOT BUILD_SHARED_LIBS OR HMI_QT_MAJOR EQUAL 4)
+if(NOT BUILD_SHARED_LIBS OR HMI_QT_MAJOR EQUAL 4 OR CMAKE_VERSION VERSION_LESS 3.19)
     set(HMI_HAS_PACKAGES OFF)
 endif()
 set(HMI_NAME_SUFFIX "" CACHE STRING "Added to the names of the libraries and of their data's folder")
 
 option(HMI_WERROR "Treat warnings as errors" OFF)
-option(HMI_BUILD_TESTS "Build the tests" ${HMI_TOP_LEVEL})
+set(can_run_tests ${HMI_TOP_LEVEL})
+if(CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
+    set(can_run_tests OFF)
+endif()
+option(HMI_BUILD_TESTS "Build the tests" ${can_run_tests})
 option(HMI_BUILD_DOCS "Make the HTML manual (Doxygen)" OFF)
 option(HMI_BUILD_TRANSLATIONS "Compile and install the translations" ${HMI_TOP_LEVEL})
 
