@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DateTimeKeypad.h"
 
+#include "FieldLabel_p.h"
 #include "FittedDisplay_p.h"
-#include "FittedLabel_p.h"
 #include "HMIDeviceInfo.h"
 #include "KeyButton_p.h"
 #include "KeypadFont_p.h"
@@ -293,11 +293,8 @@ QLayout *DateTimeKeypad::labelledFields()
     QGridLayout *grid = new QGridLayout;
     grid->setSpacing(Keypad::keySpacing);
     for (int i = 0; i < FieldCount; ++i) {
-        QLabel *label = new Keypad::FittedLabel<QLabel>(tr(fieldCells[i].label), this,
-                                                        Keypad::anyWidth, Keypad::oneLine);
+        QLabel *label = new Keypad::FieldLabel(tr(fieldCells[i].label), this);
         label->setObjectName(QLatin1String(fieldCells[i].name) + QLatin1String("Label"));
-        label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
-        label->setMinimumWidth(1); // for the policy would take the room that a value needs
         grid->addWidget(label, fieldCells[i].row, fieldCells[i].column);
         grid->addWidget(m_fields[i], fieldCells[i].row, fieldCells[i].column + 1);
     }

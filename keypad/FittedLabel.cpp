@@ -2,6 +2,7 @@
 #include "FittedLabel_p.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontInfo>
 #include <QPalette>
 #include <QStyle>
 #include <QTextDocument>
@@ -59,10 +60,18 @@ QSize roomOf(const QLabel *label)
     return textRect(label).size() - QSize(2, 2);
 }
 
-void paintPlainText(QPainter *painter, const QLabel *label)
+QFont fontUpTo(int pixels, const QLabel *label)
+{
+    QFont font(label->font());
+    if (pixels < QFontInfo(font).pixelSize())
+        font.setPixelSize(pixels);
+    return font;
+}
+
+void paintPlainText(QPainter *painter, const QLabel *label, int mostPixels)
 {
     const QSize room = roomOf(label);
-    const QFont font = fittedFont(label->font(), label->text(), 0, room);
+    const QFont font = fittedFont(fontUpTo(mostPixels, label), label->text(), 0, room);
     painter->setFont(font);
     const int direction = textDirection(label) == Qt::LeftToRight ? Qt::TextForceLeftToRight
                                                                   : Qt::TextForceRightToLeft;
@@ -117,12 +126,22 @@ QSize boundedSize(const QLabel *label, QSize plain, int lines)
     return QSize(plain.width(), qMin(plain.height(), most));
 }
 
-void paintFittedText(QPainter *painter, const QLabel *label)
+int wholeTextSize(const QLabel *label)
+{
+    if (isRich(label) || fits(plainSize(label), label->size()))
+        return SizedLabel::anySize;
+    const QSize room = roomOf(label);
+    const QFont font = fittedFont(label->font(), label->text(), 0, room);
+    return fits(sizeOf(label->text(), font, 0), room) ? QFontInfo(font).pixelSize()
+                                                      : int(SizedLabel::noSize);
+}
+
+void paintFittedText(QPainter *painter, const QLabel *label, int mostPixels)
 {
     if (isRich(label))
         paintRichText(painter, label);
     else
-        paintPlainText(painter, label);
+        paintPlainText(painter, label, mostPixels);
 }
 
 } // namespace Keypad

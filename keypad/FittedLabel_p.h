@@ -3,6 +3,7 @@
 #define FITTEDLABEL_P_H
 
 #include "FittedText_p.h"
+#include "LabelSizes_p.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -16,8 +17,11 @@ QSize plainSize(const QLabel *label);
 // \a plain, the plain size of \a label, but not higher than \a lines lines of text need.
 QSize boundedSize(const QLabel *label, QSize plain, int lines);
 
-// Draws the text of \a label, which its size is too small for, smaller.
-void paintFittedText(QPainter *painter, const QLabel *label);
+// The largest size in pixels at which the text of \a label is whole; see SizedLabel.
+int wholeTextSize(const QLabel *label);
+
+// Draws the text of \a label at \a mostPixels, or smaller where its size is too small for that.
+void paintFittedText(QPainter *painter, const QLabel *label, int mostPixels);
 
 const int anyWidth = 0;
 const int oneLine = 1;
@@ -57,7 +61,7 @@ protected:
         }
         QPainter painter(this);
         this->drawFrame(&painter);
-        paintFittedText(&painter, this);
+        paintFittedText(&painter, this, SizedLabel::anySize);
     }
 
 private:

@@ -2,7 +2,6 @@
 #include "KeyButton_p.h"
 
 #include "FittedText_p.h"
-#include "LabelSizes_p.h"
 
 #include <QEvent>
 #include <QFontMetrics>
@@ -25,12 +24,6 @@ KeyButton::KeyButton(QWidget *parent)
 {
 }
 
-KeyButton::~KeyButton()
-{
-    if (m_sizes)
-        m_sizes->remove(this);
-}
-
 QSize KeyButton::sizeHint() const
 {
     const int lineHeight = fontMetrics().height();
@@ -40,12 +33,6 @@ QSize KeyButton::sizeHint() const
 QSize KeyButton::minimumSizeHint() const
 {
     return QSize(0, leastHeight);
-}
-
-void KeyButton::shareLabelSize(const QSharedPointer<LabelSizes> &sizes)
-{
-    m_sizes = sizes;
-    m_sizes->add(this);
 }
 
 QString KeyButton::label() const
@@ -64,17 +51,7 @@ int KeyButton::wholeLabelSize() const
 
 bool KeyButton::event(QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::Resize:
-    case QEvent::FontChange:
-    case QEvent::StyleChange:
-    case QEvent::EnabledChange: // a style sheet can give a disabled key another border
-        if (m_sizes)
-            m_sizes->forget(this);
-        break;
-    default:
-        break;
-    }
+    heed(event);
     return QToolButton::event(event);
 }
 
@@ -118,7 +95,7 @@ int KeyButton::labelSize() const
     const int size = wholeLabelSize();
     if (size == noSize)
         return fittedFont(font(), label(), labelFlags, labelRoom()).pixelSize();
-    return m_sizes ? qMin(size, m_sizes->sharedSize(this)) : size;
+    return sharedLabelSize(size);
 }
 
 bool KeyButton::isBlank() const

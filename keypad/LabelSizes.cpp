@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "LabelSizes_p.h"
 
-#include "KeyButton_p.h"
-
+#include <QAbstractButton>
+#include <QEvent>
 #include <QFont>
 #include <QList>
-#include <QSharedPointer>
 #include <QTextBoundaryFinder>
-#include <QToolButton>
+#include <QWidget>
 
 namespace Keypad {
 
@@ -34,8 +33,8 @@ bool isWord(const QString &label)
     return finder.toNextBoundary() < shown.length();
 }
 
-// Keys that share a size. Their font is known by its description: Qt 5 has two ways to say the same
-// family, which make equal fonts differ.
+// Labels that share a size. Their font is known by its description: Qt 5 has two ways to say the
+// same family, which make equal fonts differ.
 struct Group
 {
     QString font;
@@ -43,46 +42,78 @@ struct Group
     int size;
 };
 
-Group &groupOf(const KeyButton *key, QVector<Group> *groups)
+Group &groupOf(SizedLabel *label, QVector<Group> *groups)
 {
-    const QString font = key->font().toString();
-    const bool showsWord = isWord(key->label());
+    const QString font = label->widget()->font().toString();
+    const bool showsWord = isWord(label->label());
     for (int i = 0; i < groups->size(); ++i) {
         if (groups->at(i).showsWords == showsWord && groups->at(i).font == font)
             return (*groups)[i];
     }
-    const Group group = { font, showsWord, KeyButton::anySize };
+    const Group group = { font, showsWord, SizedLabel::anySize };
     groups->append(group);
     return groups->last();
 }
 
 } // namespace
 
+SizedLabel::~SizedLabel()
+{
+    if (m_sizes)
+        m_sizes->remove(this);
+}
+
+void SizedLabel::shareLabelSize(const QSharedPointer<LabelSizes> &sizes)
+{
+    m_sizes = sizes;
+    m_sizes->add(this);
+}
+
+int SizedLabel::sharedLabelSize(int size) const
+{
+    return m_sizes ? qMin(size, m_sizes->sharedSize(this)) : size;
+}
+
+void SizedLabel::heed(const QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Resize:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::EnabledChange: // a style sheet can give a disabled key another border
+        if (m_sizes)
+            m_sizes->forget(this);
+        break;
+    default:
+        break;
+    }
+}
+
 LabelSizes::LabelSizes()
     : m_isComplete(false)
 {
 }
 
-void LabelSizes::add(KeyButton *key)
+void LabelSizes::add(SizedLabel *label)
 {
-    const Member member = { key, QString(), false, KeyButton::anySize, unknownSize };
+    const Member member = { label, QString(), false, SizedLabel::anySize, unknownSize };
     m_members.append(member);
 }
 
-void LabelSizes::remove(KeyButton *key)
+void LabelSizes::remove(const SizedLabel *label)
 {
-    m_members.remove(placeOf(key));
+    m_members.remove(placeOf(label));
     m_isComplete = false;
     for (int i = 0; i < m_members.size(); ++i)
-        m_members.at(i).key->update();
+        m_members.at(i).label->widget()->update();
 }
 
-void LabelSizes::forget(const KeyButton *key)
+void LabelSizes::forget(const SizedLabel *label)
 {
-    m_members[placeOf(key)].sharedSize = unknownSize;
+    m_members[placeOf(label)].sharedSize = unknownSize;
 }
 
-int LabelSizes::sharedSize(const KeyButton *key)
+int LabelSizes::sharedSize(const SizedLabel *label)
 {
     bool isChanged = !m_isComplete;
     for (int i = 0; i < m_members.size(); ++i) {
@@ -91,13 +122,13 @@ int LabelSizes::sharedSize(const KeyButton *key)
     }
     if (isChanged)
         share();
-    return m_members.at(placeOf(key)).sharedSize;
+    return m_members.at(placeOf(label)).sharedSize;
 }
 
-int LabelSizes::placeOf(const KeyButton *key) const
+int LabelSizes::placeOf(const SizedLabel *label) const
 {
     int place = 0;
-    while (m_members.at(place).key != key)
+    while (m_members.at(place).label != label)
         ++place;
     return place;
 }
@@ -105,14 +136,14 @@ int LabelSizes::placeOf(const KeyButton *key) const
 // Whether something has changed since the last time.
 bool LabelSizes::measure(Member *member)
 {
-    const KeyButton *key = member->key;
-    const bool isShown = key->isVisibleTo(key->window());
+    SizedLabel *label = member->label;
+    const bool isShown = label->widget()->isVisibleTo(label->widget()->window());
     if (member->sharedSize != unknownSize && member->isShown == isShown
-        && member->label == key->label())
+        && member->text == label->label())
         return false;
     member->isShown = isShown;
-    member->label = key->label();
-    member->wholeSize = isShown ? key->wholeLabelSize() : int(KeyButton::anySize);
+    member->text = label->label();
+    member->wholeSize = isShown ? label->wholeLabelSize() : int(SizedLabel::anySize);
     member->sharedSize = unknownSize;
     return true;
 }
@@ -122,26 +153,27 @@ void LabelSizes::share()
     m_isComplete = true;
     QVector<Group> groups;
     for (int i = 0; i < m_members.size(); ++i) {
-        Group &group = groupOf(m_members.at(i).key, &groups);
-        if (m_members.at(i).wholeSize != KeyButton::noSize)
+        Group &group = groupOf(m_members.at(i).label, &groups);
+        if (m_members.at(i).wholeSize != SizedLabel::noSize)
             group.size = qMin(group.size, m_members.at(i).wholeSize);
     }
     for (int i = 0; i < m_members.size(); ++i) {
         Member &member = m_members[i];
-        const int size = groupOf(member.key, &groups).size;
+        const int size = groupOf(member.label, &groups).size;
         if (member.sharedSize != unknownSize && member.sharedSize != size)
-            member.key->update();
+            member.label->widget()->update();
         member.sharedSize = size;
     }
 }
 
 void shareLabelSizes(QWidget *keypad)
 {
-    const QSharedPointer<LabelSizes> sizes(new LabelSizes);
-    const QList<QToolButton *> buttons = keypad->findChildren<QToolButton *>();
-    for (QToolButton *button : buttons) {
-        if (KeyButton *key = dynamic_cast<KeyButton *>(button))
-            key->shareLabelSize(sizes);
+    const QSharedPointer<LabelSizes> keySizes(new LabelSizes);
+    const QSharedPointer<LabelSizes> fieldSizes(new LabelSizes);
+    const QList<QWidget *> parts = keypad->findChildren<QWidget *>();
+    for (QWidget *part : parts) {
+        if (SizedLabel *label = dynamic_cast<SizedLabel *>(part))
+            label->shareLabelSize(qobject_cast<QAbstractButton *>(part) ? keySizes : fieldSizes);
     }
 }
 

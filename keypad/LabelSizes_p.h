@@ -2,43 +2,77 @@
 #ifndef LABELSIZES_P_H
 #define LABELSIZES_P_H
 
+#include <QSharedPointer>
 #include <QString>
 #include <QVector>
 
+#include <climits>
+
+class QEvent;
 class QWidget;
 
 namespace Keypad {
 
-class KeyButton;
+class LabelSizes;
 
-// The sizes at which the keys of one keypad draw labels that do not fit. Keys in the same font that
-// show one character share one size, and so do those that show a word: sizes that follow the width
-// of each label look ragged. A key that has no room for its label at any size is left out.
+// A widget with a label that is drawn smaller where it does not fit, and no larger than the labels
+// that share its size.
+class SizedLabel
+{
+public:
+    enum { noSize = 0, anySize = INT_MAX };
+
+    virtual ~SizedLabel();
+
+    virtual QWidget *widget() = 0;
+
+    // The text, or nothing where something else takes its place.
+    virtual QString label() const = 0;
+
+    // The largest size in pixels at which the label is whole; anySize where the font's will do,
+    // noSize where none does that can be read.
+    virtual int wholeLabelSize() const = 0;
+
+    // Once; all labels with the same \a sizes are drawn alike.
+    void shareLabelSize(const QSharedPointer<LabelSizes> &sizes);
+
+protected:
+    // \a size, or less if the others say so.
+    int sharedLabelSize(int size) const;
+
+    // To be called for every event of the widget: another place, font or style is another size.
+    void heed(const QEvent *event);
+
+private:
+    QSharedPointer<LabelSizes> m_sizes;
+};
+
+// The sizes at which the labels of one keypad are drawn that do not fit. Those in the same font
+// that are one character share one size, and so do those that are words: sizes that follow the
+// width of each label look ragged. A label for which there is no room at any size is left out.
 class LabelSizes
 {
 public:
     LabelSizes();
 
-    void add(KeyButton *key);
-    void remove(KeyButton *key);
+    void add(SizedLabel *label);
+    void remove(const SizedLabel *label);
+    void forget(const SizedLabel *label);
 
-    // To be called when \a key has got another place, font or style.
-    void forget(const KeyButton *key);
-
-    // The largest size in pixels at which \a key and those like it show their labels whole.
-    int sharedSize(const KeyButton *key);
+    // The largest size in pixels at which \a label and those like it are whole.
+    int sharedSize(const SizedLabel *label);
 
 private:
     struct Member
     {
-        KeyButton *key;
-        QString label; // as it was measured
+        SizedLabel *label;
+        QString text; // as it was measured
         bool isShown;
         int wholeSize;
-        int sharedSize; // unknown until the key has been measured and is about to be painted
+        int sharedSize; // unknown until the label has been measured and is about to be painted
     };
 
-    int placeOf(const KeyButton *key) const;
+    int placeOf(const SizedLabel *label) const;
     bool measure(Member *member);
     void share();
 
@@ -46,7 +80,7 @@ private:
     bool m_isComplete; // no member has gone since the sizes were shared
 };
 
-// Lets all keys that \a keypad has by now share their sizes.
+// Lets all keys that \a keypad has by now share their sizes, and the labels of fields theirs.
 void shareLabelSizes(QWidget *keypad);
 
 } // namespace Keypad

@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QScopedPointer>
+#include <QSpinBox>
 #include <QTextDocument>
 
 namespace {
@@ -234,15 +235,49 @@ QString complaintAboutSmallRichText(QLabel *label, QLabel *twin, const QMargins 
     return QString();
 }
 
+bool isLabelOfField(const QLabel *label)
+{
+    return !label->parentWidget()->findChildren<QSpinBox *>().isEmpty();
+}
+
+// How large a label of Qt's own that is \a twin can be drawn whole; 0 where it cannot be.
+int wholePixelSize(QLabel *twin, const QSize &size, const QMargins &around)
+{
+    const int most = pixelSizeOf(twin);
+    if (isRich(twin) || fits(twin->sizeHint(), size))
+        return most;
+    fixIndent(twin);
+    const QSize room = roomIn(twin, sum(around, indentOf(twin)));
+    const int pixels = largestPixelSize(most, twin->font(), twin->text(), 0, room);
+    return fitsAt(pixels, twin->font(), twin->text(), 0, room) ? pixels : 0;
+}
+
+// The labels of fields have one size, but for those that cannot be whole.
+int sharedPixelSize(const QLabel *label, const QMargins &around)
+{
+    int size = pixelSizeOf(label);
+    if (!isLabelOfField(label))
+        return size;
+    const QList<QLabel *> labels = label->parentWidget()->findChildren<QLabel *>();
+    for (const QLabel *other : labels) {
+        const QScopedPointer<QLabel> twin(newTwin(other));
+        const int whole = wholePixelSize(twin.data(), other->size(), around);
+        if (whole > 0 && isSameFont(other->font(), label->font()))
+            size = qMin(size, whole);
+    }
+    return size;
+}
+
 QString complaintAbout(QLabel *label, QLabel *twin, const QMargins &around)
 {
-    if (fits(twin->sizeHint(), label->size()))
+    const int most = sharedPixelSize(label, around);
+    if (fits(twin->sizeHint(), label->size()) && (most == pixelSizeOf(label) || isRich(label)))
         return complaintAboutFittingText(label, twin, around);
     fixIndent(twin);
     if (isRich(label))
         return complaintAboutSmallRichText(label, twin, around);
     const QSize room = roomIn(label, sum(around, indentOf(twin)));
-    shrink(twin, largestPixelSize(pixelSizeOf(twin), twin->font(), twin->text(), 0, room), 0, room);
+    shrink(twin, largestPixelSize(most, twin->font(), twin->text(), 0, room), 0, room);
     return complaintAboutInk(label, twin, around);
 }
 
