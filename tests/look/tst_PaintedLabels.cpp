@@ -32,6 +32,7 @@ private Q_SLOTS:
     void everyLabelShowsItsText();
     void theLongestPinyinIsWhole_data();
     void theLongestPinyinIsWhole();
+    void sizesFollowTheKeypads();
     void everyStateShows_data();
     void everyStateShows();
     void whateverTheText_data();
@@ -80,6 +81,19 @@ void tst_PaintedLabels::theLongestPinyinIsWhole()
     QApplication::processEvents();
     QCOMPARE(complaintAbout(pinyin, QMargins()), QString());
     QVERIFY(isWhole(pinyin));
+}
+
+void tst_PaintedLabels::sizesFollowTheKeypads()
+{
+    FaceStage stage(8, QSize(240, 320));
+    stage.fillLabels(u("主轴"));
+    const QList<QLabel *> labels = stage.shownLabels();
+    for (const QSize &size : { QSize(240, 320), QSize(800, 480), QSize(320, 240) }) {
+        stage.dialog()->resize(size);
+        QApplication::processEvents();
+        for (QLabel *label : labels)
+            QCOMPARE(complaintAbout(label, QMargins()), QString());
+    }
 }
 
 void tst_PaintedLabels::everyStateShows_data()
