@@ -60,14 +60,18 @@ const QVector<Face> gCodeFaces = {
     { "block",       "A block of a program",    "N30 G01 X5.", 10, 0, false,
            "",                          "",                   false },
     { "limits",      "With a line for limits",  "N30 G01 X5.", 10, 0, false,
-           "G00 … G99, X -500 … 500",   "",                   false }
+           "G00 … G99, X -500 … 500",   "",                   false },
+    { "password",    "A password",              "G31",        10, 0, true,
+           "",                          "",                   false }
 };
 
 const QVector<Face> axisFaces = {
     { "word",        "An axis word",            "Z25.5",      10, 0, false,
            "",                          "",                   false },
     { "limits",      "With limits",             "-X100.",     10, 0, false,
-           "-500.000 … 500.000 mm",     "",                   false }
+           "-500.000 … 500.000 mm",     "",                   false },
+    { "password",    "A password",              "X31",        10, 0, true,
+           "",                          "",                   false }
 };
 
 const QVector<Face> dateTimeFaces = {

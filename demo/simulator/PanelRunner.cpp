@@ -89,6 +89,8 @@ void PanelRunner::giveUp(const QString &reason)
     Q_EMIT told(QString::fromLatin1("panel: a process ended (%1) before it came up").arg(reason));
     m_next->leave();
     m_next = nullptr;
+    if (m_process)
+        Q_EMIT kept();
 }
 
 void PanelRunner::setKeypadOpen(bool open)

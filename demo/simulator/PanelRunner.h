@@ -38,6 +38,7 @@ public:
 
 Q_SIGNALS:
     void changed(); // another panel than before is shown
+    void kept();    // the same panel goes on, as the next one has not come up
     void painted(const QRect &place);
     void keypadChanged();
     void told(const QString &line); // as KeypadWatch has them, or beginning with "panel: "

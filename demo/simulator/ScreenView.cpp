@@ -40,14 +40,15 @@ void ScreenView::paintEvent(QPaintEvent *event)
     QPainter(this).drawImage(event->rect(), m_panel->picture(), event->rect());
 }
 
-// No key is a shortcut of the simulator while the screen has the focus: the panel gets all.
+// No key but Ctrl+Q is a shortcut of the simulator while the screen has the focus: the panel gets
+// all others.
 bool ScreenView::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride) {
-        event->accept();
-        return true;
-    }
-    return QWidget::event(event);
+    if (event->type() != QEvent::ShortcutOverride)
+        return QWidget::event(event);
+    const QKeyEvent *key = static_cast<QKeyEvent *>(event);
+    event->setAccepted(key->key() != Qt::Key_Q || key->modifiers() != Qt::ControlModifier);
+    return true;
 }
 
 bool ScreenView::focusNextPrevChild(bool)

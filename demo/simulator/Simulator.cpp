@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSplitter>
 
 namespace {
@@ -24,7 +25,7 @@ const int margin = 8;
 // What a window manager may put around a window.
 const QSize frame(16, 48);
 
-const int leastHeight = 700; // of the window, for the chooser and the log
+const int leastHeight = 840; // of the window, for the chooser and the log
 
 const struct
 {
@@ -74,8 +75,12 @@ Simulator::Simulator(const PanelSetup &setup)
     connect(&m_panel, SIGNAL(told(QString)), m_log, SLOT(add(QString)));
     connect(&m_panel, SIGNAL(told(QString)), SLOT(show()));
     connect(&m_panel, SIGNAL(changed()), SLOT(takePanel()));
+    connect(&m_panel, SIGNAL(kept()), SLOT(showPanelAsChosen()));
     connect(&m_panel, SIGNAL(keypadChanged()), SLOT(lockChooser()));
     connect(m_chooser, SIGNAL(chosen()), SLOT(changePanel()));
+    // A window has no button for that where there is no window manager.
+    new QShortcut(QKeySequence(QLatin1String("Ctrl+Q")), this, SLOT(close()));
+    m_chooser->setObjectName(QLatin1String("chooser"));
     m_chooser->setSetup(setup);
     m_bezel->screen()->setFocus();
     m_panel.start(setup);
@@ -97,12 +102,16 @@ void Simulator::changePanel()
     m_panel.start(m_chooser->setup());
 }
 
+void Simulator::showPanelAsChosen()
+{
+    m_chooser->setSetup(m_panel.setup());
+}
+
 // A panel of the same size leaves the window as the user has made it.
 void Simulator::takePanel()
 {
-    const QSize before = m_bezel->size();
     m_bezel->adjustSize();
-    if (!isVisible() || m_bezel->size() != before)
+    if (!isVisible() || m_bezel->size() != m_fitted)
         fitToScreen();
 }
 
@@ -114,6 +123,7 @@ void Simulator::lockChooser()
 // As large as the panel needs, if the display is. The side gives way on a small one.
 void Simulator::fitToScreen()
 {
+    m_fitted = m_bezel->size();
     const int handle = m_splitter->handleWidth();
     const QSize room = QApplication::primaryScreen()->availableSize() - frame;
     QSize panel = m_bezel->size() + QSize(handle + 2 * margin, 2 * margin);

@@ -26,6 +26,7 @@ public:
 private Q_SLOTS:
     void changePanel();
     void takePanel();
+    void showPanelAsChosen();
     void lockChooser();
 
 private:
@@ -38,6 +39,7 @@ private:
     Bezel *m_bezel;
     QScrollArea *m_scroll;
     QSplitter *m_splitter;
+    QSize m_fitted; // of the bezel, when the window was made to fit it
 };
 
 // Gives the application the simulator's own looks.

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void aPanelWithoutTouchScreenIsWorkedByItsKeysAlone();
     void theComputersKeysReachThePanel();
     void aChangeOfTheSameSizeLeavesTheWindow();
+    void aChangeOfSizeFitsTheWindow();
+    void ctrlQClosesTheWindow();
     void everyKeyThatIsHandedOnIsMarked();
     void aModelWithoutKeysHasNone();
     void aHandedOnKeyClosesTheKeypad();
@@ -251,9 +253,31 @@ void tst_Simulator::aChangeOfTheSameSizeLeavesTheWindow()
     stage.choose(light);
     WAIT_FOR(stage.panel().setup().style == Style::Light);
     QCOMPARE(window->size(), fitting - QSize(40, 30));
-    stage.choose(panelOf(9));
-    WAIT_FOR(stage.panel().setup().type == 9);
-    QVERIFY(window->size() != fitting - QSize(40, 30));
+}
+
+void tst_Simulator::aChangeOfSizeFitsTheWindow()
+{
+    SimulatorStage stage(panelOf(8));
+    WAIT_FOR(stage.isReady());
+    QWidget *window = stage.screen()->window();
+    const QSize fitting = window->size();
+    for (const int type : { 9, 1, 11, 8 }) {
+        window->resize(fitting - QSize(40, 30));
+        stage.choose(panelOf(type));
+        WAIT_FOR(stage.panel().setup().type == type);
+        QVERIFY2(window->size() != fitting - QSize(40, 30), qPrintable(QString::number(type)));
+    }
+}
+
+void tst_Simulator::ctrlQClosesTheWindow()
+{
+    const SimulatorStage stage;
+    WAIT_FOR(stage.isReady());
+    QWidget *window = stage.screen()->window();
+    QApplication::setActiveWindow(window);
+    QVERIFY(window->isVisible());
+    QTest::keyClick(stage.screen(), Qt::Key_Q, Qt::ControlModifier);
+    QVERIFY(!window->isVisible());
 }
 
 void tst_Simulator::everyKeyThatIsHandedOnIsMarked()

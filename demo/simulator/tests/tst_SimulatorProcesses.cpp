@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Chooser.h"
 #include "SimulatorStage.h"
 #include "support/Text.h"
 
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void theFormerPanelEnds();
     void theLastOfQuickChoicesStays();
     void aPanelThatDoesNotComeUpIsTold();
+    void aPanelStaysChosenIfTheNextDoesNotComeUp();
     void nothingIsLeftOver();
     void nothingIsLeftOverOfAKilledSimulator_data();
     void nothingIsLeftOverOfAKilledSimulator();
@@ -96,6 +98,19 @@ void tst_SimulatorProcesses::aPanelThatDoesNotComeUpIsTold()
     qunsetenv(variable);
     WAIT_FOR(stage.log().last().startsWith(u("panel: a process ended (exit status 0)")));
     QVERIFY(!stage.isReady());
+}
+
+void tst_SimulatorProcesses::aPanelStaysChosenIfTheNextDoesNotComeUp()
+{
+    SimulatorStage stage(panelOf(9));
+    WAIT_FOR(stage.isReady());
+    const char variable[] = "LD_TRACE_LOADED_OBJECTS";
+    qputenv(variable, "1");
+    stage.choose(panelOf(13));
+    qunsetenv(variable);
+    WAIT_FOR(stage.log().last().startsWith(u("panel: a process ended (exit status 0)")));
+    QCOMPARE(stage.panel().setup().type, 9);
+    QCOMPARE(stage.part<Chooser>("chooser")->setup().type, 9);
 }
 
 void tst_SimulatorProcesses::nothingIsLeftOver()
