@@ -3,6 +3,8 @@
 #include <QGraphicsView>
 #include <QTranslator>
 
+#define TRANSLATIONS_DIR "translations"
+
 void snippet()
 {
     @SNIPPET@
