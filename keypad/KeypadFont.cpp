@@ -45,12 +45,11 @@ bool isStyledBySheet(const QWidget *widget)
 class FontShare : public QObject
 {
 public:
-    FontShare(QDialog *keypad, const QFont &font)
+    FontShare(QDialog *keypad, const QList<QWidget *> &parts, const QFont &font)
         : QObject(keypad)
         , m_keypad(keypad)
         , m_font(font)
     {
-        const QList<QWidget *> parts = keypad->findChildren<QWidget *>();
         for (QWidget *part : parts) {
             part->setFont(font);
             if (qobject_cast<QAbstractSpinBox *>(part))
@@ -111,8 +110,9 @@ QFont font(int points)
 
 void setUpFonts(QDialog *keypad, int points)
 {
-    new FontShare(keypad, font(points));
-    shareLabelSizes(keypad);
+    const QList<QWidget *> parts = keypad->findChildren<QWidget *>();
+    new FontShare(keypad, parts, font(points));
+    shareLabelSizes(parts);
 }
 
 } // namespace Keypad

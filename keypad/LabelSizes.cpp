@@ -4,7 +4,6 @@
 #include <QAbstractButton>
 #include <QEvent>
 #include <QFont>
-#include <QList>
 #include <QTextBoundaryFinder>
 #include <QWidget>
 
@@ -102,9 +101,12 @@ void LabelSizes::add(SizedLabel *label)
 
 void LabelSizes::remove(const SizedLabel *label)
 {
-    m_members.remove(placeOf(label));
+    const int place = placeOf(label);
+    const bool wasShown = m_members.at(place).isShown;
+    m_members[place] = m_members.last();
+    m_members.pop_back();
     m_isComplete = false;
-    for (int i = 0; i < m_members.size(); ++i)
+    for (int i = 0; wasShown && i < m_members.size(); ++i)
         m_members.at(i).label->widget()->update();
 }
 
@@ -166,11 +168,10 @@ void LabelSizes::share()
     }
 }
 
-void shareLabelSizes(QWidget *keypad)
+void shareLabelSizes(const QList<QWidget *> &parts)
 {
     const QSharedPointer<LabelSizes> keySizes(new LabelSizes);
     const QSharedPointer<LabelSizes> fieldSizes(new LabelSizes);
-    const QList<QWidget *> parts = keypad->findChildren<QWidget *>();
     for (QWidget *part : parts) {
         if (SizedLabel *label = dynamic_cast<SizedLabel *>(part))
             label->shareLabelSize(qobject_cast<QAbstractButton *>(part) ? keySizes : fieldSizes);

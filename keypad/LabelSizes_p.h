@@ -2,6 +2,7 @@
 #ifndef LABELSIZES_P_H
 #define LABELSIZES_P_H
 
+#include <QList>
 #include <QSharedPointer>
 #include <QString>
 #include <QVector>
@@ -80,8 +81,8 @@ private:
     bool m_isComplete; // no member has gone since the sizes were shared
 };
 
-// Lets all keys that \a keypad has by now share their sizes, and the labels of fields theirs.
-void shareLabelSizes(QWidget *keypad);
+// Lets the keys among the \a parts of a keypad share their sizes, and the labels of fields theirs.
+void shareLabelSizes(const QList<QWidget *> &parts);
 
 } // namespace Keypad
 
