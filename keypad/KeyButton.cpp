@@ -37,7 +37,7 @@ QSize KeyButton::minimumSizeHint() const
 
 QString KeyButton::label() const
 {
-    return icon().isNull() && arrowType() == Qt::NoArrow ? text() : QString();
+    return showsOnlyText() ? text() : QString();
 }
 
 int KeyButton::wholeLabelSize() const
@@ -100,7 +100,12 @@ int KeyButton::labelSize() const
 
 bool KeyButton::isBlank() const
 {
-    return !isEnabled() && text().isEmpty() && icon().isNull() && arrowType() == Qt::NoArrow;
+    return !isEnabled() && text().isEmpty() && showsOnlyText();
+}
+
+bool KeyButton::showsOnlyText() const
+{
+    return icon().isNull() && arrowType() == Qt::NoArrow;
 }
 
 // Inside what a style sheet puts around a label, or else inside the style's frame.

@@ -30,6 +30,7 @@ protected:
 private:
     int labelSize() const;
     bool isBlank() const;
+    bool showsOnlyText() const;
     QRect labelRect() const;
     QSize labelRoom() const;
 };

@@ -35,7 +35,10 @@ private Q_SLOTS:
     void itIsWrittenAnew();
 
 private:
+    void prepareNewFile();
+
     QScopedPointer<DictionaryFile> m_dictionary;
+    QByteArray m_newFile; // with other words
 };
 
 void tst_ChangedDictionary::init()
@@ -65,19 +68,24 @@ void tst_ChangedDictionary::aWriterIsKilled()
     QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
 }
 
-// As an update does that is careful: it writes a file beside, and gives that the name.
-void tst_ChangedDictionary::anotherFileTakesItsPlace()
+void tst_ChangedDictionary::prepareNewFile()
 {
     const QByteArray oldFile = DictionaryFile::bytes();
     CHECKED(m_dictionary->create(otherWords()));
-    const QByteArray newFile = DictionaryFile::bytes();
+    m_newFile = DictionaryFile::bytes();
     CHECKED(m_dictionary->setBytes(oldFile));
+}
+
+// As an update does that is careful: it writes a file beside, and gives that the name.
+void tst_ChangedDictionary::anotherFileTakesItsPlace()
+{
+    CHECKED(prepareNewFile());
     {
         DictionarySession session;
         session.type("CN n i");
         const QString beside = DictionaryFile::directory() + u("/data.db-new");
         QVERIFY(QFile::rename(DictionaryFile::path(), beside)); // gives the old one another name
-        CHECKED(m_dictionary->overwrite(newFile));
+        CHECKED(m_dictionary->overwrite(m_newFile));
         QVERIFY(QFile::remove(beside));
         session.type("Del Del n");
         QCOMPARE(candidateLine(session.keypad()), u(oldCandidates));
@@ -113,13 +121,10 @@ void tst_ChangedDictionary::itShrinks()
 // that nothing has changed.
 void tst_ChangedDictionary::itIsWrittenAnew()
 {
-    const QByteArray oldFile = DictionaryFile::bytes();
-    CHECKED(m_dictionary->create(otherWords()));
-    const QByteArray newFile = DictionaryFile::bytes();
-    CHECKED(m_dictionary->setBytes(oldFile));
+    CHECKED(prepareNewFile());
     DictionarySession session;
     session.type("CN n i");
-    CHECKED(m_dictionary->overwrite(newFile));
+    CHECKED(m_dictionary->overwrite(m_newFile));
     session.type("Del Del n");
     const QString candidates = candidateLine(session.keypad());
     QVERIFY2(candidates.isEmpty() || candidates == u(oldCandidates)
