@@ -26,7 +26,7 @@ const char *const settings[] = { "PRAGMA page_size = 4096", "PRAGMA encoding = '
                                  "PRAGMA auto_vacuum = NONE", "PRAGMA journal_mode = OFF",
                                  "PRAGMA temp_store = MEMORY" };
 
-void insertRows(const Database &database, const QVector<DictionaryRow> &rows)
+void insertRows(const Database &database, const QVector<RankedRow> &rows)
 {
     QSqlQuery insert =
         database.prepared(QLatin1String("INSERT INTO pinyin (py, word) VALUES (?, ?)"));
@@ -39,7 +39,7 @@ void insertRows(const Database &database, const QVector<DictionaryRow> &rows)
     }
 }
 
-void build(const Database &database, const QVector<DictionaryRow> &rows)
+void build(const Database &database, const QVector<RankedRow> &rows)
 {
     for (const char *setting : settings)
         database.run(QLatin1String(setting));
@@ -104,7 +104,7 @@ void moveInto(const QString &from, const QString &fileName)
 
 } // namespace
 
-void writeDictionary(const QString &fileName, const QVector<DictionaryRow> &rows)
+void writeDictionary(const QString &fileName, const QVector<RankedRow> &rows)
 {
     const QFileInfo target = replaceableFile(fileName);
     const QString folderStart = target.fileName() + QLatin1String(folderSuffix);

@@ -10,6 +10,6 @@
 // The file is built in a folder beside its final place and takes it as a whole: until then, and for
 // good when a Failure is thrown, an older file stays as it was and nothing else is left. A folder
 // that a killed run has left is named.
-void writeDictionary(const QString &fileName, const QVector<DictionaryRow> &rows);
+void writeDictionary(const QString &fileName, const QVector<RankedRow> &rows);
 
 #endif

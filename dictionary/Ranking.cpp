@@ -88,7 +88,7 @@ int mostRowsUpTo(MatchKind kind)
 
 RankedRows ranked(const QVector<WordEntry> &entries)
 {
-    RankedRows result = { QVector<DictionaryRow>(), 0 };
+    RankedRows result = { QVector<RankedRow>(), 0 };
     QByteArray key;
     QSet<QString> candidates;
     const QVector<Match> matches = sortedMatches(entries);
@@ -102,7 +102,7 @@ RankedRows ranked(const QVector<WordEntry> &entries)
         const QString &word = match.entry->word;
         if (candidates.size() < mostRowsUpTo(match.kind) && !candidates.contains(word)) {
             candidates << word;
-            result.rows << DictionaryRow { key, word };
+            result.rows << RankedRow { key, word };
         }
     }
     return result;

@@ -5,7 +5,7 @@
 #include "WordList.h"
 
 // One row of the dictionary: a candidate under a key.
-struct DictionaryRow
+struct RankedRow
 {
     QByteArray key;
     QString candidate;
@@ -14,7 +14,7 @@ struct DictionaryRow
 // The rows in the order in which they are to be written, and under how many keys they stand.
 struct RankedRows
 {
-    QVector<DictionaryRow> rows;
+    QVector<RankedRow> rows;
     int keys;
 };
 
