@@ -1,153 +1,166 @@
 // SPDX-License-Identifier: MIT
-#include "Floors.h"
-#include "Measurement.h"
-
-#include <HMIDevice/CharacterKeypad.h>
-#include <HMIDevice/DateTimeKeypad.h>
-#include <HMIDevice/GCodeKeypad.h>
-#include <HMIDevice/HMIDeviceInfo.h>
-#include <HMIDevice/KeyBoardLineEdit.h>
-#include <HMIDevice/NumericKeypad.h>
-#include <HMIDevice/vondKeypad.h>
+#include "Bench.h"
+#include "Cases.h"
+#include "Dictionary.h"
+#include "Kinds.h"
 
 #include <QApplication>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTextStream>
-#include <QToolButton>
 
+#include <csignal>
 #include <memory>
+#include <vector>
 
-// What the library costs, beside what the same thing costs without it.
+// What the library costs, beside what the same thing costs without it. The keypads read the
+// dictionary in the program's folder, and several are needed: the program makes a folder for them
+// and a copy of itself, which measures.
 
 namespace {
 
-const int constructionRounds = 200;
-const int keyRounds = 5000;
-const int letterRounds = 500;
+const char insideOption[] = "--inside"; // of the copy: that it is one
+const char timesMode[] = "--times";
+const char heapMode[] = "--heap";
+const char instructionsMode[] = "--instructions";
+const char usage[] =
+    "usage: hmi-benchmarks [--times | --heap | --instructions FOLDER]\n"
+    "  --times                what an operation takes, with the library and without\n"
+    "  --heap                 what five keypads and bare dialogs allocate\n"
+    "  --instructions FOLDER  counts instructions under Valgrind; callgrind writes into FOLDER\n"
+    "Without an option times and heap.\n";
 
-void report(const QString &what, const Comparison &comparison)
-{
-    QTextStream(stdout)
-        << what.leftJustified(44) << ' '
-        << QString::number(comparison.library, 'f', 1).rightJustified(9) << ' '
-        << QString::number(comparison.floor, 'f', 1).rightJustified(9) << ' '
-        << QString::number(comparison.library / comparison.floor, 'f', 2).rightJustified(7) << '\n';
-}
+volatile std::sig_atomic_t isInterrupted = 0;
 
-QToolButton *key(const QWidget &keypad, const char *label)
+// The copy ends by itself, and the folder is left to nobody.
+void interrupt(int)
 {
-    const QList<QToolButton *> keys = keypad.findChildren<QToolButton *>();
-    for (QToolButton *button : keys) {
-        if (button->text() == QLatin1String(label))
-            return button;
-    }
-    qFatal("no key %s", label);
-    return nullptr;
-}
-
-template <class Keypad>
-void compareConstruction(const char *name)
-{
-    const int keys =
-        Keypad(nullptr, Qt::WindowFlags()).template findChildren<QToolButton *>().size();
-    const auto library = [] {
-        Keypad(nullptr, Qt::WindowFlags());
-    };
-    const auto floor = [keys] {
-        delete createBareKeypad(keys);
-    };
-    report(QString::fromLatin1("%1: new, beside %2 bare keys").arg(QLatin1String(name)).arg(keys),
-           compare(library, floor, constructionRounds));
-}
-
-template <class Keypad>
-void compareKeyPress(const char *name, const char *label)
-{
-    Keypad keypad(nullptr, Qt::WindowFlags());
-    KeyBoardLineEdit *editLine = keypad.template findChild<KeyBoardLineEdit *>();
-    QToolButton *button = key(keypad, label);
-    QLineEdit bare;
-    const QString text = QLatin1String(label);
-    const auto library = [&] {
-        editLine->clear();
-        button->click();
-    };
-    const auto floor = [&] {
-        bare.clear();
-        button->blockSignals(true); // the click itself is the toolkit's
-        button->click();
-        button->blockSignals(false);
-        bare.insert(text);
-    };
-    report(QString::fromLatin1("%1: a key, beside click and insertion").arg(QLatin1String(name)),
-           compare(library, floor, keyRounds));
-}
-
-void compareLetters(const QStringList &letters)
-{
-    PreparedQuery query(QCoreApplication::applicationDirPath() + QLatin1String("/data.db"));
-    if (!query.isUsable()) {
-        QTextStream(stdout) << "No dictionary beside the program: pinyin is not measured\n";
-        return;
-    }
-    CharacterKeypad keypad(nullptr, Qt::WindowFlags());
-    key(keypad, "CN")->click();
-    QToolButton *del = key(keypad, "Del");
-    QString pinyin;
-    for (const QString &letter : letters) {
-        QToolButton *button = key(keypad, qPrintable(letter));
-        const QString shorter = pinyin;
-        pinyin += letter;
-        // "Del" takes the letter back with a query for the shorter pinyin; both are measured.
-        const auto library = [&] {
-            button->click();
-            del->click();
-        };
-        const auto floor = [&] {
-            query.candidates(pinyin);
-            if (!shorter.isEmpty())
-                query.candidates(shorter);
-        };
-        const int rows = query.candidates(pinyin).size();
-        report(
-            QString::fromLatin1("\"%1\" (%2 rows) and back, beside queries").arg(pinyin).arg(rows),
-            compare(library, floor, letterRounds));
-        button->click();
-    }
+    isInterrupted = 1;
 }
 
 void reportMemory()
 {
     const long before = residentMemory();
-    const long allocatedBefore = allocatedMemory();
-    const std::unique_ptr<QWidget> keypads[] = {
-        std::unique_ptr<QWidget>(new NumericKeypad(nullptr, Qt::WindowFlags())),
-        std::unique_ptr<QWidget>(new GCodeKeypad(nullptr, Qt::WindowFlags())),
-        std::unique_ptr<QWidget>(new vondKeypad(nullptr, Qt::WindowFlags())),
-        std::unique_ptr<QWidget>(new DateTimeKeypad(nullptr, Qt::WindowFlags())),
-        std::unique_ptr<QWidget>(new CharacterKeypad(nullptr, Qt::WindowFlags())),
-    };
+    const double allocatedBefore = HeapBench::allocated();
+    std::vector<std::unique_ptr<QDialog>> keypads;
+    for (const Kind &kind : kinds)
+        keypads.push_back(kind.make());
     QTextStream(stdout) << "The first five keypads take " << residentMemory() - before
                         << " KiB of memory, with what Qt loads for them, "
-                        << allocatedMemory() - allocatedBefore << " KiB of it on the heap\n";
+                        << qRound(HeapBench::allocated() - allocatedBefore)
+                        << " KiB of it on the heap\n\n";
+}
+
+void compareAll(Bench &bench)
+{
+    Cases::construct(bench);
+    Cases::show(bench);
+    Cases::tap(bench);
+    Cases::press(bench);
+    Cases::compose(bench);
+    Cases::composeAmongMany(bench);
+}
+
+int measure(const QString &mode)
+{
+    QApplication::setCursorFlashTime(0);
+    Dictionary::use(QLatin1String(Dictionary::general));
+    if (mode == QLatin1String(timesMode)) {
+        reportMemory();
+        TimeBench bench;
+        compareAll(bench);
+    } else if (mode == QLatin1String(instructionsMode) && InstructionBench::isPossible()) {
+        InstructionBench bench;
+        compareAll(bench);
+    } else if (mode == QLatin1String(heapMode) && HeapBench::isPossible()) {
+        HeapBench bench;
+        Cases::construct(bench);
+    } else {
+        QTextStream(stderr) << "hmi-benchmarks: built without what " << mode << " needs\n";
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}
+
+bool prepare(const QString &folder, const QString &program)
+{
+    const QString given = QCoreApplication::applicationDirPath() + QLatin1String("/data.db");
+    if (QFile::exists(given))
+        QFile::link(given, Dictionary::path(folder, QLatin1String(Dictionary::general)));
+    Dictionary::write(folder, Cases::fewRows);
+    Dictionary::write(folder, Cases::manyRows);
+    return QFile::copy(QCoreApplication::applicationFilePath(), program);
+}
+
+// The same hash seed for every run; and, for the heap, nothing that was freed counts as allocated.
+QProcessEnvironment surroundings(const QString &mode)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QLatin1String("QT_HASH_SEED"), QLatin1String("0"));
+    if (mode == QLatin1String(heapMode))
+        environment.insert(QLatin1String("GLIBC_TUNABLES"),
+                           QLatin1String("glibc.malloc.tcache_count=0"));
+    return environment;
+}
+
+QStringList valgrind(const QString &folder)
+{
+    return { QLatin1String("valgrind"), QLatin1String("--tool=callgrind"),
+             QLatin1String("--collect-atstart=no"),
+             QLatin1String("--callgrind-out-file=") + folder + QLatin1String("/callgrind.out") };
+}
+
+int run(const QString &program, const QString &mode, const QStringList &prefix)
+{
+    QStringList command = prefix;
+    command << program << QLatin1String(insideOption) << mode;
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.setProcessEnvironment(surroundings(mode));
+    process.start(command.takeFirst(), command);
+    if (!process.waitForStarted() || !process.waitForFinished(-1)) {
+        QTextStream(stderr) << "hmi-benchmarks: " << process.errorString() << '\n';
+        return EXIT_FAILURE;
+    }
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : EXIT_FAILURE;
+}
+
+int measureInFolder(const QStringList &modes, const QStringList &prefix)
+{
+    std::signal(SIGINT, interrupt);
+    std::signal(SIGTERM, interrupt);
+    QTemporaryDir folder;
+    const QString program = Dictionary::path(folder.path(), QLatin1String("hmi-benchmarks"));
+    if (!folder.isValid() || !prepare(folder.path(), program)) {
+        QTextStream(stderr) << "hmi-benchmarks: no room for a copy in " << folder.path() << '\n';
+        return EXIT_FAILURE;
+    }
+    for (const QString &mode : modes) {
+        const int status = isInterrupted ? EXIT_FAILURE : run(program, mode, prefix);
+        if (status != EXIT_SUCCESS)
+            return status;
+    }
+    return EXIT_SUCCESS;
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    reportMemory();
-    QTextStream(stdout) << QString(44, QLatin1Char(' ')) << "   library     floor   ratio\n"
-                        << QString(44, QLatin1Char(' ')) << " (microseconds, medians)\n";
-
-    compareConstruction<NumericKeypad>("NumericKeypad");
-    compareConstruction<GCodeKeypad>("GCodeKeypad");
-    compareConstruction<vondKeypad>("vondKeypad");
-    compareConstruction<CharacterKeypad>("CharacterKeypad");
-    compareKeyPress<NumericKeypad>("NumericKeypad", "7");
-    compareKeyPress<GCodeKeypad>("GCodeKeypad", "G");
-    compareKeyPress<CharacterKeypad>("CharacterKeypad", "q");
-    compareLetters({ QLatin1String("z"), QLatin1String("h"), QLatin1String("u") });
-    compareLetters({ QLatin1String("v") }); // begins no syllable
-    return 0;
+    if (argc == 3 && qstrcmp(argv[1], insideOption) == 0) {
+        QApplication application(argc, argv);
+        return measure(QLatin1String(argv[2]));
+    }
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = application.arguments().mid(1);
+    const QString mode = arguments.value(0);
+    if (arguments.isEmpty())
+        return measureInFolder({ QLatin1String(timesMode), QLatin1String(heapMode) }, {});
+    if (arguments.size() == 2 && mode == QLatin1String(instructionsMode))
+        return measureInFolder({ mode }, valgrind(arguments.at(1)));
+    if (arguments.size() == 1
+        && (mode == QLatin1String(timesMode) || mode == QLatin1String(heapMode)))
+        return measureInFolder({ mode }, {});
+    QTextStream(stderr) << usage;
+    return 2;
 }
