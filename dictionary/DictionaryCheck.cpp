@@ -6,6 +6,7 @@
 #include "Interruption.h"
 #include "Limits.h"
 #include "Syllables.h"
+#include "WordList.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -45,13 +46,7 @@ bool isCandidateTooLong(const QString &, const QString &candidate)
 
 bool isCandidateUnreadable(const QString &, const QString &candidate)
 {
-    for (const QChar character : candidate) {
-        if (character == QChar::ReplacementCharacter
-            || character.category() == QChar::Other_Control) {
-            return true;
-        }
-    }
-    return false;
+    return !isReadable(candidate);
 }
 
 struct RowRule

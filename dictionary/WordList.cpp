@@ -55,6 +55,8 @@ QString fillIn(WordEntry *entry, const QStringList &columns)
     entry->weight = columns.at(2).trimmed().toLongLong(&isNumber);
     if (entry->word.isEmpty())
         return QLatin1String("no word");
+    if (!isReadable(entry->word))
+        return QLatin1String("word that is not readable text");
     if (entry->word.toUcs4().size() > LongestCandidate)
         return QString::fromLatin1("word of more than %1 characters").arg(int(LongestCandidate));
     if (entry->syllables.isEmpty())
@@ -71,6 +73,17 @@ QString fillIn(WordEntry *entry, const QStringList &columns)
 }
 
 } // namespace
+
+bool isReadable(const QString &text)
+{
+    for (const QChar character : text) {
+        if (character == QChar::ReplacementCharacter
+            || character.category() == QChar::Other_Control) {
+            return false;
+        }
+    }
+    return true;
+}
 
 void WordList::read(const QString &fileName, ListRank list)
 {

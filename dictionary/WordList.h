@@ -19,6 +19,9 @@ struct WordEntry
     ListRank list;
 };
 
+// Whether \a text has neither control characters nor what stands for an unreadable one.
+bool isReadable(const QString &text);
+
 // All entries read so far, in the order of their lines, and how many lines were skipped and why.
 //
 // A list is UTF-8 text with an entry a line: word, syllables separated by blanks, and weight,

@@ -82,6 +82,10 @@ void tst_hmi_dictionary_lists::malformedLinesAreNamedAndSkipped_data()
     QTest::newRow("two columns") << QByteArray("九\tjiu") << columns;
     QTest::newRow("blanks for tabs") << QByteArray("九 jiu 1") << columns;
     QTest::newRow("no word") << QByteArray("\tjiu\t1") << u("no word");
+    QTest::newRow("control character in a word")
+        << QByteArray("九\x07\tjiu\t1") << u("word that is not readable text");
+    QTest::newRow("sign for an unreadable character")
+        << QByteArray("\xef\xbf\xbd\tjiu\t1") << u("word that is not readable text");
     QTest::newRow("no syllables") << QByteArray("九\t\t1") << letters;
     QTest::newRow("tone number") << QByteArray("九\tjiu3\t1") << letters;
     QTest::newRow("tone mark") << QByteArray("九\tjiǔ\t1") << letters;
