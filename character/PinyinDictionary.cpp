@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlTableModel>
 #include <QVariant>
@@ -15,6 +16,7 @@ namespace {
 const char driverName[] = "QSQLITE";
 const char connectionName[] = "pinyin";
 const char tableName[] = "pinyin";
+const char rowsByPosition[] = "SELECT * FROM pinyin";
 const int candidateColumn = 1;
 
 // No waiting, so that a key is never held up by a process that writes the file. Not read-only,
@@ -22,10 +24,33 @@ const int candidateColumn = 1;
 // killed, and an application may add words through the connection.
 const char connectOptions[] = "QSQLITE_BUSY_TIMEOUT=0";
 
+// Asks for the columns by their places. Qt does not find each one by its name: a name may have
+// quotes in it, and Qt sees no column that SQLite computes.
+class Table : public QSqlTableModel
+{
+public:
+    using QSqlTableModel::QSqlTableModel;
+
+protected:
+    QString selectStatement() const override
+    {
+        const QString rows = QLatin1String(rowsByPosition);
+        return filter().isEmpty() ? rows : rows + QLatin1String(" WHERE ") + filter();
+    }
+};
+
+// Whether the last query came to its end, or as far as it was to be read.
+bool hasSucceeded(const QSqlTableModel *model)
+{
+    const QSqlQuery query = model->query();
+    return query.isActive() && !query.lastError().isValid();
+}
+
+// An error may be over in a moment, but holds no key up: it is asked again once.
 bool query(QSqlTableModel *model, const QString &filter)
 {
     model->setFilter(filter); // queries at once, unless the last query failed
-    return model->query().isActive() || model->select();
+    return hasSucceeded(model) || (model->select() && hasSucceeded(model));
 }
 
 } // namespace
@@ -42,7 +67,7 @@ QSqlTableModel *open(QObject *parent)
     // Opening would make a missing file, and wait for the writer of a pipe.
     if (!QFileInfo(file).isFile() || !database.open())
         return nullptr;
-    QSqlTableModel *model = new QSqlTableModel(parent, database);
+    QSqlTableModel *model = new Table(parent, database);
     model->setTable(QLatin1String(tableName));
     model->select();
     return model;
@@ -66,14 +91,9 @@ void close(QSqlTableModel *model)
 QStringList candidates(QSqlTableModel *model, const QString &pinyin)
 {
     QStringList list;
-    if (!model)
+    // What could be read in part would pass for the whole.
+    if (!model || !query(model, QString::fromLatin1("py == '%1'").arg(pinyin)))
         return list;
-    const QString filter = QString::fromLatin1("py == '%1'").arg(pinyin);
-    if (!query(model, filter)) {
-        // A file that was locked for a moment leaves the model without columns: read them again.
-        model->setTable(QLatin1String(tableName));
-        query(model, filter);
-    }
     // What setFilter() or select() has fetched, at most 256 rows with SQLite: more are never asked
     // for, so that a key without end costs no more than a long one.
     const int rows = model->rowCount();

@@ -113,6 +113,10 @@ void tst_OddDictionary::databasesWithAnotherContent_data()
           "CREATE TABLE pinyin (py, word); INSERT INTO pinyin VALUES ('ni', 7);"
           "INSERT INTO pinyin VALUES ('ni', 2.5); INSERT INTO pinyin VALUES (3, 3)",
           "7 2.5" },
+        { "quotes in a column's name",
+          "CREATE TABLE pinyin (py, \"a\"\"b\"); INSERT INTO pinyin VALUES ('ni', '你')", "你" },
+        { "a dot in a column's name",
+          "CREATE TABLE pinyin (py, \"a.b\"); INSERT INTO pinyin VALUES ('ni', '你')", "你" },
         { "markup",
           "CREATE TABLE pinyin (py, word);"
           "INSERT INTO pinyin VALUES ('ni', '<img src=\"file:///no/such.png\"><h1>你</h1>');"
