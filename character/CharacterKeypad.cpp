@@ -160,9 +160,7 @@ void CharacterKeypad::keyPressEvent(QKeyEvent *event)
 {
     if (Keypad::isConfirmKey(event->key()))
         sendContent(QLatin1String(enterLabel));
-    else if (Keypad::closeForApplication(this, event->key()))
-        Q_EMIT signal_kTypeKeyPressed(event->key());
-    else
+    else if (!Keypad::closeForApplication(this, event->key()))
         QDialog::keyPressEvent(event);
 }
 

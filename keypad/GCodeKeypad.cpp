@@ -142,9 +142,7 @@ void GCodeKeypad::keyPressEvent(QKeyEvent *event)
 {
     if (Keypad::isConfirmKey(event->key()))
         Keypad::confirm(this, m_object, m_lineEdit);
-    else if (Keypad::closeForApplication(this, event->key()))
-        Q_EMIT signal_kTypeKeyPressed(event->key());
-    else
+    else if (!Keypad::closeForApplication(this, event->key()))
         QDialog::keyPressEvent(event);
 }
 

@@ -8,6 +8,7 @@
 #include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMetaObject>
 #include <QSignalMapper>
 #include <QToolButton>
 #include <QVariant>
@@ -117,11 +118,13 @@ void bindTarget(QObject *object, QPointer<QObject> *target, QDialog *keypad, QLi
     if (!object)
         return;
     *target = object;
+    const QPointer<QObject> alive(object); // a slot that hears the edit line may destroy it
     object->blockSignals(true);
     resetEditLine(editLine);
     if (enabling == EnableKeys)
         enableKeys(keypad);
-    object->blockSignals(false);
+    if (alive)
+        object->blockSignals(false);
 }
 
 void showText(QLineEdit *editLine, const QString &text)
@@ -196,7 +199,10 @@ bool closeForApplication(QDialog *keypad, int key)
 {
     if (!isPanelType13() || !isApplicationKey(key))
         return false;
+    const QPointer<QDialog> alive(keypad); // a slot that hears of its end may destroy it
     keypad->reject();
+    if (alive)
+        QMetaObject::invokeMethod(keypad, "signal_kTypeKeyPressed", Q_ARG(int, key));
     return true;
 }
 

@@ -61,9 +61,9 @@ bool isPanelType13();
 // Whether hard key \a key, a Qt::Key value, confirms an entry.
 bool isConfirmKey(int key);
 
-// Rejects \a keypad and returns true when hard key \a key belongs to the application on the panel
-// type that is set now. The keypad's signal for that key comes after this, so that the application
-// meets a closed keypad.
+// Rejects \a keypad, lets it emit signal_kTypeKeyPressed() and returns true when hard key \a key
+// belongs to the application on the panel type that is set now. The signal comes last, so that the
+// application meets a closed keypad.
 bool closeForApplication(QDialog *keypad, int key);
 
 // Maps \a key to \a label in \a mapper, in place of what it was mapped to. A mapper watches a

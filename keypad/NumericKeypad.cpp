@@ -136,9 +136,7 @@ void NumericKeypad::keyPressEvent(QKeyEvent *event)
 {
     if (Keypad::isConfirmKey(event->key()))
         Keypad::confirm(this, m_object, m_lineEdit);
-    else if (Keypad::closeForApplication(this, event->key()))
-        Q_EMIT signal_kTypeKeyPressed(event->key());
-    else
+    else if (!Keypad::closeForApplication(this, event->key()))
         QDialog::keyPressEvent(event);
 }
 

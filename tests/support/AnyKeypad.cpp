@@ -7,6 +7,8 @@
 #include <HMIDevice/NumericKeypad.h>
 #include <HMIDevice/vondKeypad.h>
 
+#include <QPointer>
+
 namespace {
 
 template <class Keypad>
@@ -14,19 +16,20 @@ class Adaptor : public AnyKeypad
 {
 public:
     Adaptor(QWidget *parent, Qt::WindowFlags flags)
-        : m_keypad(parent, flags)
+        : m_keypad(new Keypad(parent, flags))
     {
     }
+    ~Adaptor() override { delete m_keypad; }
 
-    QDialog *dialog() override { return &m_keypad; }
-    void setObject(QObject *object) override { m_keypad.setObject(object); }
-    void setText(const QString &text) override { m_keypad.setText(text); }
-    void setMaxLength(int length) override { m_keypad.setMaxLength(length); }
-    void setValidator(const QValidator *v) override { m_keypad.setValidator(v); }
-    void setPasswordEchoMode(bool on) override { m_keypad.setPasswordEchoMode(on); }
+    QDialog *dialog() override { return m_keypad; }
+    void setObject(QObject *object) override { m_keypad->setObject(object); }
+    void setText(const QString &text) override { m_keypad->setText(text); }
+    void setMaxLength(int length) override { m_keypad->setMaxLength(length); }
+    void setValidator(const QValidator *v) override { m_keypad->setValidator(v); }
+    void setPasswordEchoMode(bool on) override { m_keypad->setPasswordEchoMode(on); }
 
 protected:
-    Keypad m_keypad;
+    QPointer<Keypad> m_keypad; // goes with its parent
 };
 
 template <class Keypad>
@@ -38,7 +41,7 @@ public:
     {
     }
 
-    void setLimitToolTip(const QString &text) override { this->m_keypad.setLimitToolTip(text); }
+    void setLimitToolTip(const QString &text) override { this->m_keypad->setLimitToolTip(text); }
 };
 
 template <class AdaptorClass>
@@ -92,7 +95,12 @@ void addKeypadRows(int traits)
 const KeypadKind &currentKind()
 {
     QFETCH_GLOBAL(int, keypad);
-    return keypadKinds[keypad];
+    return keypadKind(keypad);
+}
+
+const KeypadKind &keypadKind(int index)
+{
+    return keypadKinds[index];
 }
 
 AnyKeypad *newKeypad(QWidget *parent, AnyKeypad *)

@@ -14,7 +14,7 @@ class AnyKeypad
 public:
     virtual ~AnyKeypad() { }
 
-    virtual QDialog *dialog() = 0;
+    virtual QDialog *dialog() = 0; // null when its parent has taken it along
     virtual void setObject(QObject *object) = 0;
     virtual void setText(const QString &text) = 0;
     virtual void setMaxLength(int length) = 0;
@@ -56,6 +56,9 @@ void addKeypadRows(int traits = 0);
 
 // The keypad that the current global row is about.
 const KeypadKind &currentKind();
+
+// One of the five, by its place in the order of global rows.
+const KeypadKind &keypadKind(int index);
 
 // A stage's keypad is of the current kind.
 AnyKeypad *newKeypad(QWidget *parent, AnyKeypad *);
