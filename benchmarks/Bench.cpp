@@ -3,7 +3,9 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFontInfo>
 #include <QRegularExpression>
+#include <QSysInfo>
 #include <QTextStream>
 
 #include <algorithm>
@@ -22,7 +24,8 @@
 namespace {
 
 const int nameWidth = 60;
-const int countedRounds = 5;
+const int fewestCounted = 5;
+const int mostCounted = 50;
 
 void printHeading(const char *unit)
 {
@@ -76,9 +79,9 @@ double growth(const std::function<void()> &run)
 }
 
 #ifdef HMI_HAS_CALLGRIND
-void count(const Operation &operation, const QString &description)
+void count(const Operation &operation, int rounds, const QString &description)
 {
-    for (int i = 0; i < countedRounds; ++i) {
+    for (int i = 0; i < rounds; ++i) {
         operation.prepare();
         CALLGRIND_TOGGLE_COLLECT;
         operation.run();
@@ -88,7 +91,7 @@ void count(const Operation &operation, const QString &description)
     CALLGRIND_DUMP_STATS_AT(description.toUtf8().constData());
 }
 #else
-void count(const Operation &, const QString &)
+void count(const Operation &, int, const QString &)
 {
 }
 #endif
@@ -113,14 +116,22 @@ void TimeBench::compare(const Row &row, const Operation &library, const Operatio
     print(row, median(ofLibrary), median(ofFloor));
 }
 
+InstructionBench::InstructionBench()
+{
+    QTextStream(stdout) << "conditions: Qt " << qVersion() << ", compiler " << __VERSION__ << ", "
+                        << QSysInfo::buildAbi() << ", font "
+                        << QFontInfo(QFont(QLatin1String("simsun"))).family() << '\n';
+}
+
 void InstructionBench::compare(const Row &row, const Operation &library, const Operation &floor)
 {
     measured(library, microseconds);
     measured(floor, microseconds);
+    const int rounds = qBound(fewestCounted, row.rounds / 20, mostCounted);
     const QString description =
-        QString::fromLatin1("%1|%2|%3").arg(row.name).arg(row.most).arg(countedRounds);
-    count(library, description + QLatin1String("|library"));
-    count(floor, description + QLatin1String("|floor"));
+        QString::fromLatin1("%1|%2|%3").arg(row.name).arg(row.most).arg(rounds);
+    count(library, rounds, description + QLatin1String("|library"));
+    count(floor, rounds, description + QLatin1String("|floor"));
     QTextStream(stdout) << "counted: " << row.name << '\n';
 }
 

@@ -41,6 +41,7 @@ public:
 class InstructionBench : public Bench
 {
 public:
+    InstructionBench(); // prints what the counts depend on beside the library
     void compare(const Row &row, const Operation &library, const Operation &floor) override;
 
     // Whether this program runs under Valgrind, and was compiled to tell it what to count.
