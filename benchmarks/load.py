@@ -47,10 +47,13 @@ def started_functions(library):
 
 
 def written_pages(smaps, library):
-    """How many pages of the library's file this process has written, with those of its .bss."""
+    """How many pages of the library this process has written; .bss may follow without a name."""
     total = 0
-    for mapping in re.split(r'^(?=[0-9a-f]+-[0-9a-f]+ )', smaps, flags=re.M):
-        if os.path.basename(library) in mapping.splitlines()[0]:
+    end = None
+    for mapping in re.split(r'^(?=[0-9a-f]+-[0-9a-f]+ )', smaps, flags=re.M)[1:]:
+        first, last, name = re.match(r'(\S+)-(\S+) \S+ \S+ \S+ \S+ *(.*)', mapping).groups()
+        if os.path.basename(name) == os.path.basename(library) or (not name and first == end):
+            end = last
             total += int(re.search(r'Private_Dirty: +(\d+) kB', mapping)[1]) * 1024 // PAGE
     return total
 
