@@ -46,15 +46,27 @@ def started_functions(library):
             if start <= place < start + size]
 
 
+def extent(library):
+    """How many pages the library takes in memory."""
+    ends = [int(place, 16) + int(size, 16) for place, size in re.findall(
+        r'LOAD +\S+ (\S+) \S+ \S+ (\S+)', output('readelf', '-lW', library))]
+    return -(-max(ends) // PAGE)
+
+
 def written_pages(smaps, library):
-    """How many pages of the library this process has written; .bss may follow without a name."""
+    """How many pages of the library this process has written; .bss may lie behind its file."""
     total = 0
-    end = None
+    start = end = None
     for mapping in re.split(r'^(?=[0-9a-f]+-[0-9a-f]+ )', smaps, flags=re.M)[1:]:
         first, last, name = re.match(r'(\S+)-(\S+) \S+ \S+ \S+ \S+ *(.*)', mapping).groups()
-        if os.path.basename(name) == os.path.basename(library) or (not name and first == end):
-            end = last
-            total += int(re.search(r'Private_Dirty: +(\d+) kB', mapping)[1]) * 1024 // PAGE
+        first, last = int(first, 16) // PAGE, int(last, 16) // PAGE
+        if os.path.basename(name) == os.path.basename(library):
+            start = first if start is None else start
+        elif name or first != end:
+            continue
+        end = last
+        pages = int(re.search(r'Private_Dirty: +(\d+) kB', mapping)[1]) * 1024 // PAGE
+        total += max(0, min(pages, start + extent(library) - first))
     return total
 
 
