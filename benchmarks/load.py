@@ -54,7 +54,10 @@ def extent(library):
 
 
 def written_pages(smaps, library):
-    """How many pages of the library this process has written; .bss may lie behind its file."""
+    """How many pages of the library this process has written; .bss may lie behind its file.
+
+    Those are anonymous now. A page of a file that was just made is dirty, and not written here.
+    """
     total = 0
     start = end = None
     for mapping in re.split(r'^(?=[0-9a-f]+-[0-9a-f]+ )', smaps, flags=re.M)[1:]:
@@ -65,13 +68,13 @@ def written_pages(smaps, library):
         elif name or first != end:
             continue
         end = last
-        pages = int(re.search(r'Private_Dirty: +(\d+) kB', mapping)[1]) * 1024 // PAGE
+        pages = int(re.search(r'Anonymous: +(\d+) kB', mapping)[1]) * 1024 // PAGE
         total += max(0, min(pages, start + extent(library) - first))
     return total
 
 
 def all_written(smaps):
-    return sum(map(int, re.findall(r'Private_Dirty: +(\d+) kB', smaps)))
+    return sum(map(int, re.findall(r'Anonymous: +(\d+) kB', smaps)))
 
 
 def statistics(program):
