@@ -80,7 +80,7 @@ void CharacterKeypad::sendSpecialSymbols(const QString &text)
     } else if (m_lastMode == EnglishMode) {
         setUpEnglish();
         setModes(SymbolMode, EnglishMode);
-    } else if (m_lastMode == ChineseMode) {
+    } else {
         setUpChanese();
         setModes(SymbolMode, ChineseMode);
     }

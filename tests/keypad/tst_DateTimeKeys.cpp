@@ -3,6 +3,7 @@
 
 #include <QDate>
 #include <QKeyEvent>
+#include <QToolButton>
 
 #include <random>
 
@@ -95,6 +96,7 @@ private Q_SLOTS:
     void keysTakeNoFocus();
     void keysDoNothingWithoutFocus();
     void slotsDoNothingWithoutSender();
+    void aKeyOfSomebodyElseDoesNothing();
     void tapsNeverLeaveTheRange_data();
     void tapsNeverLeaveTheRange();
     void returnFinishesTheFieldAndKeepsItOpen();
@@ -202,6 +204,19 @@ void tst_DateTimeKeys::slotsDoNothingWithoutSender()
     QCOMPARE(stage.display(), u("no time"));
     QCOMPARE(stage.field(Day)->maximum(), 28);
     QVERIFY(!stage.field(Month)->testAttribute(Qt::WA_SetPalette));
+    QVERIFY(stage.keypad.isVisible());
+}
+
+void tst_DateTimeKeys::aKeyOfSomebodyElseDoesNothing()
+{
+    DateTimeStage stage;
+    QToolButton foreign;
+    QObject::connect(&foreign, SIGNAL(clicked()), &stage.keypad, SLOT(slot_toolButtonClicked()));
+    stage.keypad.setText(u(shownTime));
+    CHECKED(stage.focus(Month));
+    foreign.click();
+    QCOMPARE(stage.values(), u(valuesOfShownTime));
+    QVERIFY(!stage.field(Month)->testAttribute(Qt::WA_SetPalette)); // no mark
     QVERIFY(stage.keypad.isVisible());
 }
 
