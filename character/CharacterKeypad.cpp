@@ -27,7 +27,7 @@ namespace {
 const int gridColumns = 20;
 
 // clang-format off
-const Keypad::KeyCell keyCells[] = {
+constexpr Keypad::KeyCell keyCells[] = {
     { "q",           3,  0, 2, Keypad::InsertLabel    },
     { "w",           3,  2, 2, Keypad::InsertLabel    },
     { "e",           3,  4, 2, Keypad::InsertLabel    },

@@ -9,19 +9,19 @@
 
 namespace CharacterKeys {
 
-const char capsLabel[] = "caps";      // while lower case is shown
-const char lowerCaseLabel[] = "CAPS"; // while capitals are shown
-const char chineseLabel[] = "CN";
-const char englishLabel[] = "EN";
-const char symbolsLabel[] = "*#";
-const char backLabel[] = "<<"; // from symbols
-const char previousPageLabel[] = "<";
-const char nextPageLabel[] = ">";
-const char delLabel[] = "Del";
-const char escLabel[] = "Esc";
-const char enterLabel[] = "Enter";
-const char spaceLabel[] = "Space";
-const char ampersandLabel[] = "&&"; // which a tool button shows as one ampersand
+constexpr char capsLabel[] = "caps";      // while lower case is shown
+constexpr char lowerCaseLabel[] = "CAPS"; // while capitals are shown
+constexpr char chineseLabel[] = "CN";
+constexpr char englishLabel[] = "EN";
+constexpr char symbolsLabel[] = "*#";
+constexpr char backLabel[] = "<<"; // from symbols
+constexpr char previousPageLabel[] = "<";
+constexpr char nextPageLabel[] = ">";
+constexpr char delLabel[] = "Del";
+constexpr char escLabel[] = "Esc";
+constexpr char enterLabel[] = "Enter";
+constexpr char spaceLabel[] = "Space";
+constexpr char ampersandLabel[] = "&&"; // which a tool button shows as one ampersand
 
 // The lower-case letters of the letter keys, in the order of their cells.
 QString letters();

@@ -23,21 +23,10 @@ const int candidateMinimumWidth = 20;
 const int pagingMinimumWidth = 24;
 
 // Candidates of any length leave the paging buttons their place.
-class PagingButton : public Keypad::KeyButton
-{
-public:
-    using KeyButton::KeyButton;
-
-    QSize minimumSizeHint() const override
-    {
-        return QSize(pagingMinimumWidth, KeyButton::minimumSizeHint().height());
-    }
-};
-
 QToolButton *createPagingButton(QWidget *parent, const char *label, const char *name,
                                 const QString &accessibleName)
 {
-    QToolButton *button = new PagingButton(parent);
+    QToolButton *button = new Keypad::KeyButton(parent, pagingMinimumWidth);
     Keypad::setUpKey(button, QLatin1String(label));
     button->setObjectName(QLatin1String(name));
     QtDifferences::setAccessibleName(button, accessibleName);

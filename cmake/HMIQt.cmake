@@ -7,11 +7,14 @@
 #   HMI_QT_DEPENDENCY                        what users of the installed library must find
 #   HMI_QT_PC_REQUIRES, HMI_QT_PC_PRIVATE    the same for pkg-config: the headers' modules, the rest
 #   HMI_QT_PC_CFLAGS                         what this Qt asks of its users' compiler
+#   HMI_QT_REDUCES_RELOCATIONS               whether its users must be compiled so that a library may
+#                                            bind its own functions, as this Qt's libraries do
 
 set(HMI_QT Qt${HMI_QT_MAJOR})
 
 if(HMI_QT_MAJOR EQUAL 4)
     set(modules QtCore QtGui QtSql)
+    set(core_module QtCore)
     set(test_module QtTest)
     set(HMI_QT_WIDGETS Qt4::QtGui)
     set(HMI_QT_SQL Qt4::QtSql)
@@ -22,6 +25,7 @@ if(HMI_QT_MAJOR EQUAL 4)
     set(HMI_QT_PC_CFLAGS "")
 else()
     set(modules Widgets Sql)
+    set(core_module Core)
     set(test_module Test)
     set(HMI_QT_WIDGETS ${HMI_QT}::Widgets)
     set(HMI_QT_SQL ${HMI_QT}::Sql)
@@ -47,6 +51,19 @@ if(HMI_QT_MAJOR EQUAL 4)
 else()
     find_package(${HMI_QT} REQUIRED COMPONENTS ${modules})
 endif()
+
+include(CheckCXXSourceCompiles)
+include(CMakePushCheckState)
+cmake_push_check_state(RESET)
+get_target_property(CMAKE_REQUIRED_INCLUDES ${HMI_QT}::${core_module} INTERFACE_INCLUDE_DIRECTORIES)
+set(CMAKE_REQUIRED_FLAGS -fPIC)
+check_cxx_source_compiles("
+    #include <qconfig.h>
+    #ifndef QT_REDUCE_RELOCATIONS
+    #error
+    #endif
+    int main() {}" HMI_QT_REDUCES_RELOCATIONS)
+cmake_pop_check_state()
 
 # An archive leaves it to its users to link all that it needs.
 if(NOT BUILD_SHARED_LIBS)

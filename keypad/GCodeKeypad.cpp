@@ -16,7 +16,7 @@
 namespace {
 
 // clang-format off
-const Keypad::KeyCell keyCells[] = {
+constexpr Keypad::KeyCell keyCells[] = {
     { "I",         0,  0, 2, Keypad::InsertLabel },
     { "J",         0,  2, 2, Keypad::InsertLabel },
     { "K",         0,  4, 2, Keypad::InsertLabel },

@@ -19,8 +19,9 @@ const qreal blankOpacity = 0.4; // of a disabled key, which has no label that co
 
 } // namespace
 
-KeyButton::KeyButton(QWidget *parent)
+KeyButton::KeyButton(QWidget *parent, int leastWidth)
     : QToolButton(parent)
+    , m_leastWidth(leastWidth)
 {
 }
 
@@ -32,7 +33,7 @@ QSize KeyButton::sizeHint() const
 
 QSize KeyButton::minimumSizeHint() const
 {
-    return QSize(0, leastHeight);
+    return QSize(m_leastWidth, leastHeight);
 }
 
 QString KeyButton::label() const

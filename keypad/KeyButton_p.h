@@ -13,7 +13,8 @@ namespace Keypad {
 class KeyButton : public QToolButton, public SizedLabel
 {
 public:
-    explicit KeyButton(QWidget *parent);
+    // A layout that is short of room leaves the key \a leastWidth pixels.
+    explicit KeyButton(QWidget *parent, int leastWidth = 0);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -33,6 +34,8 @@ private:
     bool showsOnlyText() const;
     QRect labelRect() const;
     QSize labelRoom() const;
+
+    int m_leastWidth;
 };
 
 } // namespace Keypad

@@ -84,7 +84,7 @@ void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, const Key
 {
     for (int i = 0; i < members.size(); ++i) {
         QToolButton *key = createKey(keypad, labelText(cells[i]));
-        nameKey(key, cells[i].action, key->text());
+        nameKey(key, KeyAction(cells[i].action), key->text());
         grid->addWidget(key, cells[i].row, cells[i].column, 1, cells[i].columnSpan);
         *members.at(i) = key;
     }

@@ -29,12 +29,38 @@ enum KeyAction {
     SwitchSymbols
 };
 
+// A label of up to twelve bytes, UTF-8 or a codec literal. It holds them itself: a table of pointers
+// would be written by the loader in every process.
+class KeyLabel
+{
+public:
+    template <int size>
+    constexpr KeyLabel(const char (&text)[size])
+        : m_bytes{ byte(text, 0), byte(text, 1), byte(text, 2),  byte(text, 3),  byte(text, 4),
+                   byte(text, 5), byte(text, 6), byte(text, 7),  byte(text, 8),  byte(text, 9),
+                   byte(text, 10), byte(text, 11), '\0' }
+    {
+        static_assert(size <= sizeof(m_bytes), "a short label");
+    }
+
+    constexpr operator const char *() const { return m_bytes; }
+
+private:
+    template <int size>
+    static constexpr char byte(const char (&text)[size], int place)
+    {
+        return place < size ? text[place] : '\0';
+    }
+
+    char m_bytes[13];
+};
+
 struct KeyCell
 {
-    const char *label; // UTF-8, or a codec literal
-    int row, column;   // cell in the grid, from 0
-    int columnSpan;    // at least 1
-    KeyAction action;
+    KeyLabel label;
+    signed char row, column; // cell in the grid, from 0
+    signed char columnSpan;  // at least 1
+    unsigned char action;    // a KeyAction
 };
 
 // Names \a key by what it does, or else by \a label, the one that it has at first: its object name,

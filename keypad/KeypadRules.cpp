@@ -157,7 +157,7 @@ void press(const QObject *key, const KeyCell *cells, const KeyMembers &members, 
 {
     const int place = placeOf(key, members);
     if (place >= 0)
-        act(cells[place].action, (*members.at(place))->text(), keypad, target, editLine);
+        act(KeyAction(cells[place].action), (*members.at(place))->text(), keypad, target, editLine);
 }
 
 QRect mappedToGlobal(const QWidget *widget, const QRect &rect)

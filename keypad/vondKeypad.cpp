@@ -17,7 +17,7 @@ namespace {
 
 // clang-format off
 // Cell (0, 0) stays empty: the letter columns read U-V-W, A-B-C and X-Y-Z downwards.
-const Keypad::KeyCell keyCells[] = {
+constexpr Keypad::KeyCell keyCells[] = {
     { "F",         0, 1, 1, Keypad::InsertLabel },
     { "G",         0, 2, 1, Keypad::InsertLabel },
     { "7",         0, 3, 1, Keypad::InsertLabel },
