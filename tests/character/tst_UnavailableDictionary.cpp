@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DictionarySession.h"
+#include "OrdinaryUser.h"
 #include "support/DictionaryFile.h"
 #include "support/Emulation.h"
 
@@ -18,9 +19,6 @@
 // Dictionaries that the keypad may not read, or not now: it does not wait for them.
 
 namespace {
-
-const uid_t superuser = 0;
-const uid_t nobody = 65534;
 
 // Another process that holds the dictionary locked.
 class Writer
@@ -42,34 +40,6 @@ public:
 
 private:
     QProcess m_process;
-};
-
-// Where the test runs as the superuser, who may read anything, it is another user meanwhile: the
-// one who owns the test's directory, as others may have no way into it.
-class OrdinaryUser
-{
-public:
-    OrdinaryUser()
-        : m_former(geteuid())
-    {
-        const uid_t owner = QFileInfo(DictionaryFile::directory()).ownerId();
-        if (m_former == superuser)
-            change(owner == superuser ? nobody : owner);
-    }
-    ~OrdinaryUser()
-    {
-        if (m_former == superuser)
-            change(superuser);
-    }
-
-private:
-    static void change(uid_t user)
-    {
-        if (seteuid(user) != 0)
-            qFatal("cannot become user %u", unsigned(user));
-    }
-
-    uid_t m_former;
 };
 
 // A pipe in the dictionary's place. It is kept open, so that nobody waits for a writer, and
