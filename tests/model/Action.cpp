@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "Action.h"
+
+#include "support/Text.h"
+
+#include <QStringList>
+
+namespace {
+
+// Each kind's share of all actions, in 128ths.
+const struct
+{
+    ActionKind kind;
+    int share;
+    const char *name;
+} kinds[] = {
+    { Tap, 36, "tap key" },
+    { LikelyTap, 28, "tap likely key" },
+    { Press, 13, "press" },
+    { Type, 8, "type" },
+    { PointAt, 5, "point at" },
+    { TouchField, 5, "touch field" },
+    { SetObject, 5, "set object" },
+    { DestroyTarget, 1, "destroy target" },
+    { SetText, 6, "set text" },
+    { SetMaxLength, 4, "set maximum length" },
+    { SetValidator, 3, "set validator" },
+    { SetPasswordEcho, 2, "set password echo" },
+    { SetEditMode, 2, "set edit mode" },
+    { SetDecimalPoint, 1, "enable decimal point" },
+    { SetLimits, 2, "set limits" },
+    { SetDeviceType, 2, "set device type" },
+    { RegisterView, 1, "register view" },
+    { ChangeView, 1, "change view" },
+    { MoveTarget, 1, "move target" },
+    { Close, 1, "close" },
+    { LetPass, 1, "let time pass" },
+};
+
+// clang-format off
+const int codes[] = {
+    Qt::Key_Left, Qt::Key_Right, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
+    Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_A,
+    Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Down,
+    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Return,
+    Qt::Key_Enter, Qt::Key_Escape, Qt::Key_F6, Qt::Key_F7, Qt::Key_F8, Qt::Key_F12, Qt::Key_F14,
+    Qt::Key_F15, Qt::Key_F19, Qt::Key_F21, Qt::Key_F24, Qt::Key_F28, Qt::Key_F31, Qt::Key_F33,
+    Qt::Key_Menu, Qt::Key_Shift, Qt::Key_Control, Qt::Key_VolumeUp, Qt::Key_unknown,
+    Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F4, Qt::Key_F5, Qt::Key_F9, Qt::Key_F10,
+    Qt::Key_F11, Qt::Key_F13, Qt::Key_F17, Qt::Key_F18, Qt::Key_F20, Qt::Key_F25, Qt::Key_F26,
+    Qt::Key_F27, Qt::Key_F32,
+    Qt::Key_Left, Qt::Key_Right, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
+    Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Up, Qt::Key_Down, Qt::Key_Up, Qt::Key_Down,
+    Qt::Key_Tab, Qt::Key_Backtab
+};
+
+const int modifiers[] = {
+    Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier,
+    Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier | Qt::ShiftModifier, Qt::NoModifier
+};
+
+const char typed[] = "0123456789.-+ aAzZxyn0123456789(_";
+
+const char *const texts[] = {
+    "", "0", "12.5", "-3", "-X-5", "X-5", "1-2-3", "--", "99999999999", "3.14159", "G01 X5 Y-7",
+    "hello world", "ABC", "数控机床", "a b  c", "-", "7", "100",
+    "2024-02-29", "2024-02-30", "1900-02-29", "2000-02-29", "1600-01-01", "1599-12-31",
+    "7999-12-31", "0000-00-00", "2024-13-01", "12:34:56", "24:00:00", "23:59:60", "00:00:00",
+    "2024-02-29 12:34:56", "1999-12-31 23:59:59", "2024-05-17 08:09:10", "2024-05-17T08:09:10",
+    "2024-05-17 24:00:00", "abcdefgh", "2024/05/17", "31-12-2024", "2024-05-17 8:9:10"
+};
+
+const int maxLengths[] = {
+    32767, 10, 8, 19, 0, 1, 2, 3, 5, 6, 12, 10, 8, 19, -1, 100000
+};
+
+const int editModes[] = { 2, 10, 16, 8, 0, -1, 10, 1000 };
+
+const char *const limits[] = { "", "0 .. 100", "-999.999 - 999.999", "" };
+
+const int deviceTypes[] = { 13, 1, 13, 9, 14, 21, 13, 0 };
+// clang-format on
+
+template <class Value, int count>
+Value oneOf(const Value (&values)[count], int choice)
+{
+    return values[choice % count];
+}
+
+QString modifierNames(int held)
+{
+    return u(held & Qt::ControlModifier ? "Ctrl+" : "")
+        + u(held & Qt::ShiftModifier ? "Shift+" : "");
+}
+
+Action decodedOne(const QByteArray &bytes)
+{
+    Action action = { Tap, uchar(bytes.at(1)), uchar(bytes.at(2)), uchar(bytes.at(3)), bytes };
+    int dice = uchar(bytes.at(0)) / 2;
+    for (const auto &row : kinds) {
+        action.kind = row.kind;
+        dice -= row.share;
+        if (dice < 0)
+            break;
+    }
+    return action;
+}
+
+QString nameOf(ActionKind kind)
+{
+    for (const auto &row : kinds) {
+        if (row.kind == kind)
+            return u(row.name);
+    }
+    return QString();
+}
+
+} // namespace
+
+QList<Action> decoded(const QByteArray &bytes)
+{
+    QList<Action> actions;
+    for (int i = 0; i + bytesPerAction <= bytes.size(); i += bytesPerAction)
+        actions << decodedOne(bytes.mid(i, bytesPerAction));
+    return actions;
+}
+
+QByteArray encoded(const QList<Action> &actions)
+{
+    QByteArray bytes;
+    for (const Action &action : actions)
+        bytes += action.bytes;
+    return bytes;
+}
+
+// Shift+Delete would cut to the clipboard, which is none of a keypad's.
+HardKey hardKeyOf(const Action &action)
+{
+    if (action.kind == Type) {
+        const QChar character = QLatin1Char(oneOf(typed, action.a % int(sizeof(typed) - 1)));
+        return { character.toUpper().unicode(), QString(character), 0 };
+    }
+    HardKey key = { oneOf(codes, action.a), QString(), oneOf(modifiers, action.b) };
+    if (key.code == Qt::Key_A)
+        key.modifiers = Qt::ControlModifier;
+    else if (key.code == Qt::Key_Delete)
+        key.modifiers &= ~int(Qt::ShiftModifier);
+    else if (key.code == Qt::Key_Tab || key.code == Qt::Key_Backtab)
+        key.modifiers = key.code == Qt::Key_Tab ? Qt::NoModifier : Qt::ShiftModifier;
+    return key;
+}
+
+QString textOf(const Action &action)
+{
+    return u(oneOf(texts, action.a));
+}
+
+int maxLengthOf(const Action &action)
+{
+    return oneOf(maxLengths, action.a);
+}
+
+int editModeOf(const Action &action)
+{
+    return oneOf(editModes, action.a);
+}
+
+QString limitsOf(const Action &action)
+{
+    return u(oneOf(limits, action.a));
+}
+
+int deviceTypeOf(const Action &action)
+{
+    return oneOf(deviceTypes, action.a);
+}
+
+QString described(const Action &action)
+{
+    const QString name = nameOf(action.kind) + QLatin1Char(' ');
+    switch (action.kind) {
+    case Press:
+    case Type: {
+        const HardKey key = hardKeyOf(action);
+        return name + modifierNames(key.modifiers) + QString::number(key.code, 16) + u(" ")
+            + key.text;
+    }
+    case SetText:
+        return name + QLatin1Char('"') + textOf(action) + QLatin1Char('"');
+    case SetMaxLength:
+        return name + QString::number(maxLengthOf(action));
+    case SetEditMode:
+        return name + QString::number(editModeOf(action));
+    case SetLimits:
+        return name + QLatin1Char('"') + limitsOf(action) + QLatin1Char('"');
+    case SetDeviceType:
+        return name + QString::number(deviceTypeOf(action));
+    default:
+        return QString::fromLatin1("%1%2 %3 %4")
+            .arg(name)
+            .arg(action.a)
+            .arg(action.b)
+            .arg(action.c);
+    }
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#ifndef ACTION_H
+#define ACTION_H
+
+#include "LineModel.h"
+
+#include <QByteArray>
+#include <QList>
+
+// What is done to a keypad: by its operator, who can only while it is shown, and by the
+// application.
+enum ActionKind {
+    Tap,
+    LikelyTap,
+    Press,
+    Type,
+    PointAt,
+    TouchField,
+    LastOfOperator = TouchField,
+
+    SetObject,
+    DestroyTarget,
+    SetText,
+    SetMaxLength,
+    SetValidator,
+    SetPasswordEcho,
+    SetEditMode,
+    SetDecimalPoint,
+    SetLimits,
+    SetDeviceType,
+    RegisterView,
+    ChangeView,
+    MoveTarget,
+    Close,
+    LetPass // time
+};
+
+// An action is four bytes, of which any are one: its kind and three choices.
+struct Action
+{
+    ActionKind kind;
+    int a, b, c;
+    QByteArray bytes;
+
+    bool isOperators() const { return kind <= LastOfOperator; }
+};
+
+enum { bytesPerAction = 4 };
+
+// The actions in \a bytes; what is left over at the end is none.
+QList<Action> decoded(const QByteArray &bytes);
+QByteArray encoded(const QList<Action> &actions);
+
+// What the choices of an action stand for.
+HardKey hardKeyOf(const Action &action);
+QString textOf(const Action &action);
+int maxLengthOf(const Action &action);
+int editModeOf(const Action &action);
+QString limitsOf(const Action &action);
+int deviceTypeOf(const Action &action);
+
+// In words.
+QString described(const Action &action);
+
+#endif

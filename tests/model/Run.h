@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#ifndef MODEL_RUN_H
+#define MODEL_RUN_H
+
+#include "Machine.h"
+
+#include <QByteArray>
+#include <QSet>
+
+// What came of a run.
+struct Report
+{
+    int actions = 0;
+    QSet<uint> states; // hashes of what was seen
+    QString failure;   // empty, or the shortest way found to make keypad and model differ
+};
+
+// Does the actions that \a bytes stand for to a new keypad and a new model, and compares them after
+// each. Where they differ, false, and the report tells how to see it again. What is there already
+// in the report is added to.
+bool runActions(KeypadName name, const unsigned char *bytes, std::size_t size, Report *report);
+
+// Bytes that a seed stands for.
+QByteArray randomBytes(unsigned seed, int size);
+
+#endif

@@ -1,0 +1,375 @@
+// SPDX-License-Identifier: MIT
+#include "Session.h"
+
+#include "support/QtDifferences.h"
+#include "support/Text.h"
+
+#include <HMIDevice/KeyBoardLineEdit.h>
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QMouseEvent>
+#include <QTimerEvent>
+
+namespace {
+
+void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &pos, int modifiers)
+{
+    const bool released = type == QEvent::MouseButtonRelease;
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, pos, widget->mapToGlobal(pos), button,
+                      released ? Qt::NoButton : Qt::LeftButton,
+                      Qt::KeyboardModifiers(QFlag(modifiers)));
+    QSpontaneKeyEvent::setSpontaneous(&event); // or it would not take the keyboard along
+    qApp->notify(widget, &event);
+}
+
+// As a windowing system does, and after it Qt: it is for the focused field as if Tab led to it.
+// Whether windows are told of in time differs from one windowing system to the other, and with it
+// whether something stays selected; here nothing does.
+void giveKeyboardTo(QDialog *dialog)
+{
+    QApplication::processEvents();
+    QApplication::setActiveWindow(dialog);
+    const QList<QLineEdit *> lines = dialog->findChildren<QLineEdit *>();
+    for (QLineEdit *line : lines)
+        line->deselect();
+    QFocusEvent focusIn(QEvent::FocusIn, Qt::TabFocusReason);
+    QApplication::sendEvent(dialog->focusWidget(), &focusIn);
+}
+
+QStringList differences(const Seen &keypad, const Seen &model)
+{
+    QStringList list;
+    const QStringList ofKeypad = keypad.lines();
+    const QStringList ofModel = model.lines();
+    for (int i = 0; i < ofKeypad.size(); ++i) {
+        if (ofKeypad.at(i) != ofModel.at(i))
+            list << u("keypad ") + ofKeypad.at(i) << u("model  ") + ofModel.at(i);
+    }
+    return list;
+}
+
+} // namespace
+
+// Recorder
+
+void Recorder::attachTo(QDialog *keypad)
+{
+    m_keypad = keypad;
+    m_target = nullptr;
+    connect(keypad, SIGNAL(accepted()), SLOT(accepted()));
+    connect(keypad, SIGNAL(rejected()), SLOT(rejected()));
+    connect(keypad, SIGNAL(finished(int)), SLOT(finished(int)));
+    const char signal[] = "signal_kTypeKeyPressed(int)";
+    if (keypad->metaObject()->indexOfSignal(signal) >= 0)
+        connect(keypad, SIGNAL(signal_kTypeKeyPressed(int)), SLOT(keyPressed(int)));
+}
+
+QStringList Recorder::takeHappenings()
+{
+    const QStringList list = m_happenings;
+    m_happenings.clear();
+    return list;
+}
+
+// The target has been written by then.
+void Recorder::accepted()
+{
+    note(u("accepted ") + (m_target ? m_target->property("text").toString() : QString()));
+}
+
+void Recorder::rejected()
+{
+    note(u("rejected"));
+}
+
+// Where the result is one of the two above, Qt's versions disagree which signal comes first.
+void Recorder::finished(int result)
+{
+    if (result != QDialog::Accepted && result != QDialog::Rejected)
+        note(u("finished ") + QString::number(result));
+}
+
+void Recorder::keyPressed(int key)
+{
+    note(u("key ") + QString::number(key));
+}
+
+void Recorder::note(const QString &happening)
+{
+    m_happenings << happening + u(m_keypad->isVisible() ? " while it is open" : "");
+}
+
+// Session
+
+Session::Session(KeypadName name)
+    : m_name(name)
+    , m_model(newModel(name, m_surroundings.world()))
+    , m_machine(newMachine(name, m_surroundings.home()))
+    , m_fields(m_machine->fields())
+    , m_keys(m_machine->keys())
+    , m_next(0)
+    , m_timer(0)
+    , m_same(true)
+{
+    m_recorder.attachTo(m_machine->dialog());
+    compare();
+}
+
+Session::~Session()
+{
+}
+
+bool Session::run(const QList<Action> &actions)
+{
+    m_actions = actions;
+    m_next = 0;
+    while (m_same && m_next < m_actions.size()) {
+        if (m_actions.at(m_next).isOperators())
+            openAndGoOn();
+        else
+            doNext();
+    }
+    return m_same;
+}
+
+// What an operator would do is the opening where the keypad is closed.
+void Session::openAndGoOn()
+{
+    const ViewPlace view = m_surroundings.viewPlace();
+    if (!m_model->canOpen(view)) {
+        ++m_next;
+        return;
+    }
+    m_model->open(view, m_surroundings.targetPlace(m_model->target()));
+    m_timer = startTimer(0);
+    const int result = m_machine->dialog()->exec();
+    if (!m_same)
+        return;
+    QApplication::setActiveWindow(nullptr);
+    m_model->lostTheKeyboard();
+    compare();
+    if (m_same && result != m_model->seen().result) {
+        m_same = false;
+        m_divergence.differences << u("exec() returns ") + QString::number(result);
+    }
+}
+
+// While the keypad is shown. At the end it is closed, or exec() would not return.
+void Session::timerEvent(QTimerEvent *)
+{
+    QDialog *dialog = m_machine->dialog();
+    if (!dialog->isVisible())
+        return;
+    killTimer(m_timer);
+    giveKeyboardTo(dialog);
+    compare();
+    ++m_next;
+    while (m_same && m_next < m_actions.size() && dialog->isVisible()) {
+        perform(m_actions.at(m_next));
+        if (dialog->isVisible())
+            compare();
+        ++m_next;
+    }
+    if (!m_same)
+        dialog->hide();
+    else if (dialog->isVisible())
+        close(0);
+}
+
+void Session::doNext()
+{
+    perform(m_actions.at(m_next));
+    compare();
+    ++m_next;
+}
+
+void Session::perform(const Action &action)
+{
+    switch (action.kind) {
+    case Tap:
+        return tap(action.a % int(m_keys.size()));
+    case LikelyTap:
+        return tap(m_model->likelyKey(action.a));
+    case Press:
+    case Type:
+        return press(hardKeyOf(action));
+    case PointAt:
+        return pointAt(action);
+    case TouchField:
+        m_fields.at(action.a % int(m_fields.size()))->setFocus(Qt::TabFocusReason);
+        return m_model->touchField(action.a);
+    case Close:
+        return close(action.a);
+    case LetPass:
+        if (m_model->isOpen())
+            QApplication::processEvents();
+        return;
+    default:
+        return adjust(action);
+    }
+}
+
+void Session::adjust(const Action &action)
+{
+    switch (action.kind) {
+    case SetObject:
+        return setObject(action);
+    case DestroyTarget: {
+        const int index = action.a % Surroundings::targetCount;
+        if (m_model->target() == index)
+            m_recorder.setTarget(nullptr);
+        m_model->targetIsGone(index);
+        return m_surroundings.renewTarget(index);
+    }
+    case SetText:
+        m_machine->setText(textOf(action));
+        return m_model->setText(textOf(action));
+    case SetMaxLength:
+        m_machine->setMaxLength(maxLengthOf(action));
+        return m_model->setMaxLength(maxLengthOf(action));
+    case SetValidator:
+        m_machine->setValidator(Surroundings::validator(action.a));
+        return m_model->setValidator(Surroundings::validator(action.a));
+    case SetPasswordEcho:
+        m_machine->setPasswordEchoMode(action.a % 2);
+        return m_model->setPasswordEchoMode(action.a % 2);
+    case SetEditMode:
+        m_machine->setEditMode(editModeOf(action));
+        return m_model->setEditMode(editModeOf(action));
+    case SetDecimalPoint:
+        m_machine->setDecimalPointEnabled(action.a % 2);
+        return m_model->setDecimalPointEnabled(action.a % 2);
+    case SetLimits:
+        m_machine->setLimitToolTip(limitsOf(action));
+        return m_model->setLimitToolTip(limitsOf(action));
+    case SetDeviceType:
+        return m_surroundings.setDeviceType(deviceTypeOf(action));
+    case RegisterView:
+        return m_surroundings.registerView(action.a % 4);
+    case ChangeView:
+        return m_surroundings.changeView(action.a, action.b, action.c);
+    case MoveTarget:
+        return m_surroundings.moveTarget(action.a % Surroundings::targetCount, action.b, action.c);
+    default:
+        break;
+    }
+}
+
+// One in eight is null. Now and then the application has blocked the target's signals.
+void Session::setObject(const Action &action)
+{
+    const int index =
+        action.a % 8 == 7 ? int(KeypadModel::noTarget) : action.a % Surroundings::targetCount;
+    if (index != KeypadModel::noTarget) {
+        if (action.b % 8 == 0)
+            m_surroundings.block(index);
+        m_recorder.setTarget(m_surroundings.target(index));
+    }
+    m_machine->setObject(index == KeypadModel::noTarget ? nullptr : m_surroundings.target(index));
+    m_model->setObject(index);
+}
+
+// A disabled key is tapped too. One that is not shown cannot be.
+void Session::tap(int key)
+{
+    QWidget *widget = m_keys.at(key);
+    if (widget->isVisible()) {
+        const QPoint place = widget->rect().center();
+        sendMouse(widget, QEvent::MouseButtonPress, place, Qt::NoModifier);
+        sendMouse(widget, QEvent::MouseButtonRelease, place, Qt::NoModifier);
+    }
+    m_model->tap(key);
+}
+
+// The order in which Tab goes through the character keypad is not told by any rule.
+void Session::press(const HardKey &key)
+{
+    const bool isTab = key.code == Qt::Key_Tab || key.code == Qt::Key_Backtab;
+    if (isTab && m_name == Character)
+        return;
+    QDialog *dialog = m_machine->dialog();
+    QWidget *focus = dialog->focusWidget();
+    QTest::sendKeyEvent(QTest::Click, focus ? focus : dialog, Qt::Key(key.code), key.text,
+                        Qt::KeyboardModifiers(QFlag(key.modifiers)));
+    m_model->press(key);
+}
+
+// A finger on the edit line: touches it, or goes along it, or Shift is held.
+void Session::pointAt(const Action &action)
+{
+    KeyBoardLineEdit *line = m_machine->line();
+    const int y = line->height() / 2;
+    const QPoint from(line->width() * action.b / 256, y);
+    const QPoint to(line->width() * action.c / 256, y);
+    const int held = action.a % 4 == 1 ? Qt::ShiftModifier : Qt::NoModifier;
+    const int first = line->cursorPositionAt(from);
+    sendMouse(line, QEvent::MouseButtonPress, from, held);
+    m_model->pointAt(first, held != Qt::NoModifier);
+    if (action.a % 4 > 1) {
+        const int last = line->cursorPositionAt(to);
+        sendMouse(line, QEvent::MouseMove, to, held);
+        m_model->pointAt(last, true);
+    }
+    sendMouse(line, QEvent::MouseButtonRelease, to, held);
+}
+
+void Session::close(int way)
+{
+    if (!m_model->isOpen())
+        return;
+    switch (way % 4) {
+    case 0:
+        m_machine->dialog()->reject();
+        return m_model->closeWith(QDialog::Rejected);
+    case 1:
+        m_machine->dialog()->close();
+        return m_model->closeWith(QDialog::Rejected);
+    case 2:
+        m_machine->dialog()->accept();
+        return m_model->closeWith(QDialog::Accepted);
+    default:
+        m_machine->dialog()->done(7);
+        return m_model->closeWith(7);
+    }
+}
+
+void Session::compare()
+{
+    const Seen ofKeypad = seen();
+    Seen ofModel = m_model->seen();
+    const QStringList lines = ofModel.lines();
+    m_states.insert(uint(qHash(lines.join(u("\n")))));
+    if (lines == ofKeypad.lines())
+        return;
+    m_same = false;
+    m_divergence.action = m_next;
+    m_divergence.differences = differences(ofKeypad, ofModel);
+}
+
+Seen Session::seen()
+{
+    const QDialog *dialog = m_machine->dialog();
+    const KeyBoardLineEdit *line = m_machine->line();
+    Seen seen;
+    seen.text = line->text();
+    seen.selectedText = line->selectedText();
+    seen.cursor = line->cursorPosition();
+    seen.maxLength = line->maxLength();
+    seen.hidden = line->echoMode() != QLineEdit::Normal;
+    const QList<QWidget *> keys = m_keys;
+    for (const QWidget *key : keys) {
+        const QString label = key->property("text").toString();
+        seen.keys << (key->isEnabled() ? label : QLatin1Char('/') + label);
+    }
+    seen.tip = m_machine->tip() + u(m_machine->isTipShown() ? " shown" : " hidden");
+    seen.parts = m_machine->parts();
+    seen.targets = m_surroundings.seenTargets();
+    seen.open = dialog->isVisible();
+    seen.result = dialog->result();
+    seen.focus = dialog->isVisible() ? int((m_fields + m_keys).indexOf(dialog->focusWidget())) : -1;
+    seen.place = m_model->place().isNull() ? QRect() : dialog->geometry();
+    seen.happenings = m_recorder.takeHappenings();
+    return seen;
+}

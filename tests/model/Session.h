@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#ifndef SESSION_H
+#define SESSION_H
+
+#include "Action.h"
+#include "Machine.h"
+#include "Surroundings.h"
+
+#include <QObject>
+#include <QScopedPointer>
+#include <QSet>
+
+// Writes down what a keypad tells.
+class Recorder : public QObject
+{
+    Q_OBJECT
+
+public:
+    void attachTo(QDialog *keypad);
+    void setTarget(const QObject *target) { m_target = target; }
+    QStringList takeHappenings();
+
+private Q_SLOTS:
+    void accepted();
+    void rejected();
+    void finished(int result);
+    void keyPressed(int key);
+
+private:
+    void note(const QString &happening);
+
+    QDialog *m_keypad;
+    const QObject *m_target; // only while it lives
+    QStringList m_happenings;
+};
+
+// How keypad and model came apart.
+struct Divergence
+{
+    int action; // among those that were done
+    QStringList differences;
+};
+
+// A new keypad and a new model, to which the same is done.
+class Session : private QObject
+{
+public:
+    explicit Session(KeypadName name);
+    ~Session() override;
+
+    // Does what it is told until the two differ; true when they never did.
+    bool run(const QList<Action> &actions);
+
+    const Divergence &divergence() const { return m_divergence; }
+    int actionsDone() const { return m_next; }
+    const QSet<uint> &states() const { return m_states; } // by their hashes
+
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    void openAndGoOn();
+    void doNext();
+    void perform(const Action &action);
+    void adjust(const Action &action);
+    void setObject(const Action &action);
+    void tap(int key);
+    void press(const HardKey &key);
+    void pointAt(const Action &action);
+    void close(int way);
+    void compare();
+    Seen seen();
+
+    KeypadName m_name;
+    Surroundings m_surroundings;
+    QScopedPointer<KeypadModel> m_model;
+    QScopedPointer<Machine> m_machine;
+    QList<QWidget *> m_fields, m_keys;
+    Recorder m_recorder;
+    QList<Action> m_actions;
+    int m_next, m_timer;
+    bool m_same;
+    Divergence m_divergence;
+    QSet<uint> m_states;
+};
+
+#endif
