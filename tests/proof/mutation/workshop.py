@@ -99,6 +99,8 @@ class Worker:
         self.library = folder / "lib" / self._name_of_library()
         self.library.parent.mkdir()
         (folder / "objects").mkdir()
+        self.originals = {}
+        self.prelude = self._precompiled_header()
         self.running, self.is_stopped = None, False
 
     def _name_of_library(self):
@@ -109,13 +111,36 @@ class Worker:
         tree, made = str(self.build.tree), str(self.build.folder)
         return word.replace(made, "\0").replace(tree, str(self.folder)).replace("\0", made)
 
+    # Qt's headers are most of what there is to compile.
+    def _precompiled_header(self):
+        header = self.folder / "Qt.h"
+        header.write_text("#include <QtWidgets>\n#include <QtSql>\n")
+        words = list(next(iter(self.build.compile.values())))
+        words[words.index("-o") + 1] = str(header) + ".gch"
+        words[words.index("-c") + 1] = str(header)
+        subprocess.run(words, cwd=self.build.folder, check=True)
+        return header
+
     def compile(self, part, *flags):
         """The object file of a part, or None where it does not compile."""
         output = self.folder / "objects" / part.replace("/", "_")
         words = [self._here(word) for word in self.build.compile[part]]
         words[words.index("-o") + 1] = str(output)
-        done = subprocess.run(words + list(flags), cwd=self.build.folder, capture_output=True)
+        words += ["-include", str(self.prelude), *flags]
+        done = subprocess.run(words, cwd=self.build.folder, capture_output=True)
         return output if done.returncode == 0 else None
+
+    def code(self, part, *flags):
+        """What the compiler makes of a part, or None."""
+        compiled = self.compile(part, *flags)
+        return compiled.read_bytes() if compiled else None
+
+    # The same of the part without a fault.
+    def original(self, part, *flags):
+        key = (part, *flags)
+        if key not in self.originals:
+            self.originals[key] = self.code(part, *flags)
+        return self.originals[key]
 
     def link(self, objects, *flags):
         words = [str(objects.get(word, word)) for word in self.build.link]
