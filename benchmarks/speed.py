@@ -18,6 +18,7 @@ import tempfile
 from typing import NamedTuple
 
 import load
+import tables
 
 MOST_GROWTH = 1.05
 NAME_WIDTH = 60
@@ -179,6 +180,8 @@ def main():
         os.path.join(options.tree, 'benchmarks', 'exceptions.txt')))
     if options.renew:
         write_kept(kept_path, conditions, figures)
+        program = os.path.join(options.build, 'benchmarks', 'hmi-benchmarks')
+        tables.renew_speed(options.tree, figures, read_table(run(program, '--times'), 'µs'), FILE_ROW)
     else:
         complaints += [f'{name}: {100 * (factor - 1):.1f} % more than in the last release'
                        for name, factor in grown.items() if factor > MOST_GROWTH]
