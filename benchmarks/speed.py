@@ -176,12 +176,13 @@ def main():
     print_table(figures, grown)
     complaints = load.compare(os.path.join(options.build, 'benchmarks', 'load'),
                               os.path.join(options.build, 'libHMIDevice.so'))
-    complaints += judge_targets(figures, read_lines(
-        os.path.join(options.tree, 'benchmarks', 'exceptions.txt')))
+    exceptions = read_lines(os.path.join(options.tree, 'benchmarks', 'exceptions.txt'))
+    complaints += judge_targets(figures, exceptions)
     if options.renew:
         write_kept(kept_path, conditions, figures)
         program = os.path.join(options.build, 'benchmarks', 'hmi-benchmarks')
-        tables.renew_speed(options.tree, figures, read_table(run(program, '--times'), 'µs'), FILE_ROW)
+        tables.renew_speed(options.tree, figures, read_table(run(program, '--times'), 'µs'), FILE_ROW,
+                           exceptions)
     else:
         complaints += [f'{name}: {100 * (factor - 1):.1f} % more than in the last release'
                        for name, factor in grown.items() if factor > MOST_GROWTH]

@@ -32,8 +32,11 @@ def renew_comparison(tree, rows, figures_of):
     renew(tree, 'comparison', lines)
 
 
-def renew_speed(tree, counted, timed, file_row):
+def renew_speed(tree, counted, timed, file_row, exceptions):
     """Of counted the ratios, and heap and file; of timed, which has no heap, the times."""
+    renew(tree, 'exceptions', ['| What | Up to | Made of |', '|---|---|---|',
+                               *(f'| `{name}` | {most} | {reason} |'
+                                 for name, most, reason in exceptions)])
     lines = ['| What | Library, µs | Floor, µs | Ratio of times | of instructions | At most |',
              '|---|---|---|---|---|---|']
     for name, figure in timed.items():
