@@ -130,10 +130,9 @@ int wholeTextSize(const QLabel *label)
 {
     if (isRich(label) || fits(plainSize(label), label->size()))
         return SizedLabel::anySize;
-    const QSize room = roomOf(label);
-    const QFont font = fittedFont(label->font(), label->text(), 0, room);
-    return fits(sizeOf(label->text(), font, 0), room) ? QFontInfo(font).pixelSize()
-                                                      : int(SizedLabel::noSize);
+    bool isWhole = false;
+    const QFont font = fittedFont(label->font(), label->text(), 0, roomOf(label), &isWhole);
+    return isWhole ? QFontInfo(font).pixelSize() : int(SizedLabel::noSize);
 }
 
 void paintFittedText(QPainter *painter, const QLabel *label, int mostPixels)

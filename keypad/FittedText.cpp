@@ -32,19 +32,24 @@ bool fits(const QSize &size, const QSize &room)
     return size.width() <= room.width() && size.height() <= room.height();
 }
 
-QFont fittedFont(const QFont &font, const QString &text, int flags, const QSize &room)
+QFont fittedFont(const QFont &font, const QString &text, int flags, const QSize &room,
+                 bool *isWhole)
 {
     const QSize needed = sizeOf(text, font, flags);
-    if (fits(needed, room))
-        return font;
-    const int pixelSize = QFontInfo(font).pixelSize();
-    const int least = qMin(pixelSize, smallestPixelSize);
-    QFont smaller(font);
-    for (int size = qMin(pixelSize, largestPixelSize(pixelSize, needed, room));; --size) {
-        smaller.setPixelSize(qMax(size, least));
-        if (size <= least || fits(sizeOf(text, smaller, flags), room))
-            return smaller;
+    QFont fitted(font);
+    bool isFitting = fits(needed, room);
+    if (!isFitting) {
+        const int pixelSize = QFontInfo(font).pixelSize();
+        const int least = qMin(pixelSize, smallestPixelSize);
+        int size = qMin(pixelSize, largestPixelSize(pixelSize, needed, room)) + 1;
+        do {
+            fitted.setPixelSize(qMax(--size, least));
+            isFitting = fits(sizeOf(text, fitted, flags), room);
+        } while (!isFitting && size > least);
     }
+    if (isWhole)
+        *isWhole = isFitting;
+    return fitted;
 }
 
 QString fittedText(const QFont &font, const QString &text, int flags, const QSize &room)

@@ -21,8 +21,9 @@ QSize sizeOf(const QString &text, const QFont &font, int flags);
 bool fits(const QSize &size, const QSize &room);
 
 // \a font, or as much smaller a one as \a text needs to be drawn inside \a room; not illegibly
-// small.
-QFont fittedFont(const QFont &font, const QString &text, int flags, const QSize &room);
+// small. In \a isWhole, unless that is null, whether it fits then.
+QFont fittedFont(const QFont &font, const QString &text, int flags, const QSize &room,
+                 bool *isWhole = nullptr);
 
 // \a text, or what of it can be drawn in \a font inside \a room, ending in an ellipsis.
 QString fittedText(const QFont &font, const QString &text, int flags, const QSize &room);

@@ -22,6 +22,7 @@ const qreal blankOpacity = 0.4; // of a disabled key, which has no label that co
 KeyButton::KeyButton(QWidget *parent, int leastWidth)
     : QToolButton(parent)
     , m_leastWidth(leastWidth)
+    , m_measure()
 {
 }
 
@@ -43,11 +44,8 @@ QString KeyButton::label() const
 
 int KeyButton::wholeLabelSize() const
 {
-    const QSize room = labelRoom();
-    if (fits(sizeOf(label(), font(), labelFlags), room))
-        return anySize;
-    const QFont smaller = fittedFont(font(), label(), labelFlags, room);
-    return fits(sizeOf(label(), smaller, labelFlags), room) ? smaller.pixelSize() : int(noSize);
+    const Measure &measured = measure();
+    return measured.isWhole ? measured.size : int(noSize);
 }
 
 bool KeyButton::event(QEvent *event)
@@ -83,20 +81,33 @@ void KeyButton::paintEvent(QPaintEvent *event)
     option.font = font();
     option.font.setPixelSize(size);
     option.fontMetrics = QFontMetrics(option.font);
-    option.text = fittedText(option.font, text(), labelFlags, labelRoom());
+    option.text =
+        measure().isWhole ? text() : fittedText(option.font, text(), labelFlags, measure().room);
     painter.drawControl(QStyle::CE_ToolButtonLabel, option);
 }
 
-// At which the label is drawn. It may have less room now than when it was measured: a style sheet
-// can give a pressed key another border, too.
+// A key may have less room than when its size was shared: a style sheet can give a pressed key
+// another border, too.
+const KeyButton::Measure &KeyButton::measure() const
+{
+    const QSize room = labelRoom();
+    if (m_measure.room == room && m_measure.label == label() && m_measure.font == font())
+        return m_measure;
+    m_measure.label = label();
+    m_measure.font = font();
+    m_measure.room = room;
+    const QFont fitted = fittedFont(font(), label(), labelFlags, room, &m_measure.isWhole);
+    m_measure.size = m_measure.isWhole && fitted == font() ? int(anySize) : fitted.pixelSize();
+    return m_measure;
+}
+
+// At which the label is drawn.
 int KeyButton::labelSize() const
 {
     if (label().isEmpty())
         return anySize;
-    const int size = wholeLabelSize();
-    if (size == noSize)
-        return fittedFont(font(), label(), labelFlags, labelRoom()).pixelSize();
-    return sharedLabelSize(size);
+    const Measure &measured = measure();
+    return measured.isWhole ? sharedLabelSize(measured.size) : measured.size;
 }
 
 bool KeyButton::isBlank() const

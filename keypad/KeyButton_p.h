@@ -4,6 +4,9 @@
 
 #include "LabelSizes_p.h"
 
+#include <QFont>
+#include <QSize>
+#include <QString>
 #include <QToolButton>
 
 namespace Keypad {
@@ -29,6 +32,17 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    // What fitting a label into its room has come to, so that painting need not do it again.
+    struct Measure
+    {
+        QString label;
+        QFont font;
+        QSize room;
+        int size;     // at which the label is drawn if it is on its own
+        bool isWhole; // then
+    };
+
+    const Measure &measure() const;
     int labelSize() const;
     bool isBlank() const;
     bool showsOnlyText() const;
@@ -36,6 +50,7 @@ private:
     QSize labelRoom() const;
 
     int m_leastWidth;
+    mutable Measure m_measure;
 };
 
 } // namespace Keypad

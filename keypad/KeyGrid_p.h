@@ -29,16 +29,16 @@ enum KeyAction {
     SwitchSymbols
 };
 
-// A label of up to twelve bytes, UTF-8 or a codec literal. It holds them itself: a table of pointers
-// would be written by the loader in every process.
+// A label of up to twelve bytes, UTF-8 or a codec literal. It holds them itself: a table of
+// pointers would be written by the loader in every process.
 class KeyLabel
 {
 public:
     template <int size>
     constexpr KeyLabel(const char (&text)[size])
-        : m_bytes{ byte(text, 0), byte(text, 1), byte(text, 2),  byte(text, 3),  byte(text, 4),
-                   byte(text, 5), byte(text, 6), byte(text, 7),  byte(text, 8),  byte(text, 9),
-                   byte(text, 10), byte(text, 11), '\0' }
+        : m_bytes { byte(text, 0),  byte(text, 1),  byte(text, 2), byte(text, 3), byte(text, 4),
+                    byte(text, 5),  byte(text, 6),  byte(text, 7), byte(text, 8), byte(text, 9),
+                    byte(text, 10), byte(text, 11), '\0' }
     {
         static_assert(size <= sizeof(m_bytes), "a short label");
     }

@@ -13,6 +13,13 @@ namespace {
 
 const int unknownSize = 0;
 
+bool isShown(SizedLabel *label)
+{
+    const QWidget *widget = label->widget();
+    const QWidget *parent = widget->parentWidget();
+    return !widget->isHidden() && (parent->isWindow() || parent->isVisibleTo(parent->window()));
+}
+
 // A button shows "&&" as one ampersand, and underlines what follows a single one.
 QString shownText(const QString &label)
 {
@@ -32,21 +39,27 @@ bool isWord(const QString &label)
     return finder.toNextBoundary() < shown.length();
 }
 
-// Labels that share a size. Their font is known by its description: Qt 5 has two ways to say the
-// same family, which make equal fonts differ.
+// Labels that share a size.
 struct Group
 {
-    QString font;
+    QFont font;
     bool showsWords;
     int size;
 };
 
+// Qt 5 has two ways to say the same family, which make equal fonts differ: their descriptions are
+// the same.
+bool areAlike(const QFont &one, const QFont &other)
+{
+    return one == other || one.toString() == other.toString();
+}
+
 Group &groupOf(SizedLabel *label, QVector<Group> *groups)
 {
-    const QString font = label->widget()->font().toString();
+    const QFont font = label->widget()->font();
     const bool showsWord = isWord(label->label());
     for (int i = 0; i < groups->size(); ++i) {
-        if (groups->at(i).showsWords == showsWord && groups->at(i).font == font)
+        if (groups->at(i).showsWords == showsWord && areAlike(groups->at(i).font, font))
             return (*groups)[i];
     }
     const Group group = { font, showsWord, SizedLabel::anySize };
@@ -89,7 +102,7 @@ void SizedLabel::heed(const QEvent *event)
 }
 
 LabelSizes::LabelSizes()
-    : m_isComplete(false)
+    : m_isCurrent(false)
 {
 }
 
@@ -105,7 +118,7 @@ void LabelSizes::remove(const SizedLabel *label)
     const bool wasShown = m_members.at(place).isShown;
     m_members[place] = m_members.last();
     m_members.pop_back();
-    m_isComplete = false;
+    m_isCurrent = false;
     for (int i = 0; wasShown && i < m_members.size(); ++i)
         m_members.at(i).label->widget()->update();
 }
@@ -113,16 +126,16 @@ void LabelSizes::remove(const SizedLabel *label)
 void LabelSizes::forget(const SizedLabel *label)
 {
     m_members[placeOf(label)].sharedSize = unknownSize;
+    m_isCurrent = false;
 }
 
 int LabelSizes::sharedSize(const SizedLabel *label)
 {
-    bool isChanged = !m_isComplete;
     for (int i = 0; i < m_members.size(); ++i) {
-        if (measure(&m_members[i]))
-            isChanged = true;
+        if (!isMeasured(m_members.at(i)))
+            measure(&m_members[i]);
     }
-    if (isChanged)
+    if (!m_isCurrent)
         share();
     return m_members.at(placeOf(label)).sharedSize;
 }
@@ -135,24 +148,29 @@ int LabelSizes::placeOf(const SizedLabel *label) const
     return place;
 }
 
-// Whether something has changed since the last time.
-bool LabelSizes::measure(Member *member)
+// Asked of all members whenever one is painted: hence the look at where a text lies, which is the
+// same place while it has not been set anew.
+bool LabelSizes::isMeasured(const Member &member)
+{
+    if (member.sharedSize == unknownSize || member.isShown != isShown(member.label))
+        return false;
+    const QString label = member.label->label();
+    return label.constData() == member.text.constData() || label == member.text;
+}
+
+void LabelSizes::measure(Member *member)
 {
     SizedLabel *label = member->label;
-    const bool isShown = label->widget()->isVisibleTo(label->widget()->window());
-    if (member->sharedSize != unknownSize && member->isShown == isShown
-        && member->text == label->label())
-        return false;
-    member->isShown = isShown;
+    member->isShown = isShown(label);
     member->text = label->label();
-    member->wholeSize = isShown ? label->wholeLabelSize() : int(SizedLabel::anySize);
+    member->wholeSize = member->isShown ? label->wholeLabelSize() : int(SizedLabel::anySize);
     member->sharedSize = unknownSize;
-    return true;
+    m_isCurrent = false;
 }
 
 void LabelSizes::share()
 {
-    m_isComplete = true;
+    m_isCurrent = true;
     QVector<Group> groups;
     for (int i = 0; i < m_members.size(); ++i) {
         Group &group = groupOf(m_members.at(i).label, &groups);

@@ -74,11 +74,12 @@ private:
     };
 
     int placeOf(const SizedLabel *label) const;
-    bool measure(Member *member);
+    static bool isMeasured(const Member &member);
+    void measure(Member *member);
     void share();
 
     QVector<Member> m_members;
-    bool m_isComplete; // no member has gone since the sizes were shared
+    bool m_isCurrent; // no member has changed or gone since the sizes were shared
 };
 
 // Lets the keys among the \a parts of a keypad share their sizes, and the labels of fields theirs.
