@@ -32,8 +32,8 @@ template <class Label>
 class FittedLabel : public Label
 {
 public:
-    // The label asks for \a mostLines lines at most; a layout that is short of room leaves it half
-    // of them, and \a leastWidth pixels.
+    // The label asks for \a mostLines lines at most; a layout that is short of room leaves it a
+    // quarter of them, and \a leastWidth pixels.
     FittedLabel(const QString &text, QWidget *parent, int leastWidth, int mostLines)
         : Label(text, parent)
         , m_leastWidth(leastWidth)

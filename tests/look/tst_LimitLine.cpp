@@ -3,6 +3,9 @@
 #include "PaintedText.h"
 #include "Sheets.h"
 
+#include <QFontMetrics>
+#include <QLabel>
+
 // The line for limits has the room that its text needs, as long as the keys keep enough.
 
 namespace {
@@ -42,6 +45,7 @@ private Q_SLOTS:
     void aStyleSheetsRoomIsAdded();
     void manyLinesLeaveTheKeysTheirRoom_data();
     void manyLinesLeaveTheKeysTheirRoom();
+    void asksForTwelveLinesAndInsistsOnThree();
 };
 
 void tst_LimitLine::initTestCase_data()
@@ -96,6 +100,19 @@ void tst_LimitLine::manyLinesLeaveTheKeysTheirRoom()
         QVERIFY(key->height() >= leastKeyHeight);
     QVERIFY(stage.line()->height() >= leastKeyHeight);
     QCOMPARE(stage.dialog()->size(), stage.view.size());
+}
+
+void tst_LimitLine::asksForTwelveLinesAndInsistsOnThree()
+{
+    FaceStage stage(8, QSize(640, 480));
+    QStringList lines;
+    for (int i = 0; i < 20; ++i)
+        lines << u("Max: 6000");
+    stage.keypad.setLimitToolTip(lines.join(u("\n")));
+    const QLabel *label = tipLabel(stage.dialog());
+    const int lineHeight = label->fontMetrics().size(0, u("x")).height();
+    QCOMPARE(label->sizeHint().height(), 12 * lineHeight);
+    QCOMPARE(label->minimumSizeHint(), QSize(0, 3 * lineHeight));
 }
 
 QTEST_MAIN(tst_LimitLine)

@@ -318,7 +318,10 @@ def main(root, work, count, seed):
         explained = read_explanations(root / "tests" / "proof" / "equivalent-mutants.txt")
         results = Results(work / "results", build.tree)
         campaign = Campaign(build, suites, reach, results, explained)
-        return report(campaign, campaign.run(drawn(build.tree, seed), count, places))
+        faults = drawn(build.tree, seed)
+        for stale in sorted(set(explained) - {fault.key for fault in faults}):
+            say("There is no such fault any more, though it is explained: %s: %s" % (stale[0], stale[2]))
+        return report(campaign, campaign.run(faults, count, places))
     finally:
         for place in places:
             place.stop()
