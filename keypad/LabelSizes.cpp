@@ -77,8 +77,8 @@ SizedLabel::~SizedLabel()
 
 void SizedLabel::shareLabelSize(const QSharedPointer<LabelSizes> &sizes)
 {
+    sizes->add(this); // which may fail for want of memory
     m_sizes = sizes;
-    m_sizes->add(this);
 }
 
 int SizedLabel::sharedLabelSize(int size) const
