@@ -11,8 +11,8 @@
 struct Report
 {
     int actions = 0;
-    QSet<uint> states; // hashes of what was seen
-    QString failure;   // empty, or the shortest way found to make keypad and model differ
+    QSet<quint64> states; // by their hashes
+    QString failure;      // empty, or the shortest way found to make keypad and model differ
 };
 
 // Does the actions that \a bytes stand for to a new keypad and a new model, and compares them after

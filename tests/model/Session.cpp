@@ -7,6 +7,7 @@
 #include <HMIDevice/KeyBoardLineEdit.h>
 
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QFocusEvent>
 #include <QMouseEvent>
 #include <QTimerEvent>
@@ -48,6 +49,13 @@ QStringList differences(const Seen &keypad, const Seen &model)
             list << u("keypad ") + ofKeypad.at(i) << u("model  ") + ofModel.at(i);
     }
     return list;
+}
+
+quint64 hashOf(const QStringList &lines)
+{
+    const QByteArray hash =
+        QCryptographicHash::hash(lines.join(u("\n")).toUtf8(), QCryptographicHash::Md5);
+    return hash.left(8).toHex().toULongLong(nullptr, 16);
 }
 
 } // namespace
@@ -340,7 +348,7 @@ void Session::compare()
     const Seen ofKeypad = seen();
     Seen ofModel = m_model->seen();
     const QStringList lines = ofModel.lines();
-    m_states.insert(uint(qHash(lines.join(u("\n")))));
+    m_states.insert(hashOf(lines));
     if (lines == ofKeypad.lines())
         return;
     m_same = false;

@@ -53,7 +53,7 @@ public:
 
     const Divergence &divergence() const { return m_divergence; }
     int actionsDone() const { return m_next; }
-    const QSet<uint> &states() const { return m_states; } // by their hashes
+    const QSet<quint64> &states() const { return m_states; } // by their hashes
 
 protected:
     void timerEvent(QTimerEvent *event) override;
@@ -81,7 +81,7 @@ private:
     int m_next, m_timer;
     bool m_same;
     Divergence m_divergence;
-    QSet<uint> m_states;
+    QSet<quint64> m_states;
 };
 
 #endif
