@@ -14,8 +14,8 @@ const struct
     int share;
     const char *name;
 } kinds[] = {
-    { Tap, 36, "tap key" },
-    { LikelyTap, 28, "tap likely key" },
+    { Tap, 36, "tap" },
+    { LikelyTap, 28, "tap" },
     { Press, 13, "press" },
     { Type, 8, "type" },
     { PointAt, 5, "point at" },

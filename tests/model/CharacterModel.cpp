@@ -91,8 +91,8 @@ int CharacterModel::likelyKey(int choice) const
 {
     if (m_mode != Chinese)
         return choice % 3 == 0 ? int(LanguageKey) : int(DelKey);
-    if (choice % 8 == 7)
-        return NextKey;
+    if (choice % 8 == 7 || (m_pages > 1 && choice % 8 > 3))
+        return choice / 8 % 3 == 0 ? PreviousKey : NextKey;
     QStringList next;
     for (const DictionaryRow &row : words) {
         const QString pinyin = u(row.pinyin);

@@ -137,7 +137,7 @@ void GCodeModel::open(const ViewPlace &view, const TargetPlace &target)
     QRect rect = target.geometry;
     if (target.hasParent)
         rect.translate(target.origin);
-    lieAt(rect.translated(view.viewportOrigin));
+    lieAt(rect.translated(view.viewportOrigin), false);
 }
 
 bool GCodeModel::coversTarget() const

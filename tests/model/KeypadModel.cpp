@@ -47,7 +47,8 @@ QStringList Seen::lines() const
          << u("keys       ") + keys.join(u(" ")) << u("limits     ") + tip
          << u("parts      ") + parts.join(u(" | ")) << u("targets    ") + targets.join(u(" | "))
          << u("open       ") + u(open ? "yes" : "no") << u("result     ") + QString::number(result)
-         << u("focus      ") + QString::number(focus) << u("place      ") + described(place)
+         << u("focus      ") + QString::number(focus)
+         << u("place      ") + described(place) + u(resizable ? "" : " fixed")
          << u("happenings ") + happenings.join(u(", "));
     return list;
 }
@@ -64,6 +65,7 @@ KeypadModel::KeypadModel(World *world)
     , m_open(false)
     , m_result(0)
     , m_focus(0)
+    , m_resizable(true)
 {
 }
 
@@ -131,7 +133,7 @@ void KeypadModel::open(const ViewPlace &view, const TargetPlace &)
     m_open = true;
     m_result = 0;
     if (view.registered)
-        lieAt(rectOfView(view));
+        lieAt(rectOfView(view), m_resizable);
     m_line.setCursor(m_line.cursor());
     if (m_focus < fieldCount())
         fieldGotKeyboard();
@@ -266,6 +268,7 @@ Seen KeypadModel::seen()
     seen.result = m_result;
     seen.focus = m_open ? m_focus : -1;
     seen.place = m_place;
+    seen.resizable = m_resizable;
     seen.happenings = m_happenings;
     m_happenings.clear();
     return seen;
@@ -294,6 +297,12 @@ void KeypadModel::tellKey(int code)
 void KeypadModel::cancel()
 {
     closeWith(0);
+}
+
+void KeypadModel::lieAt(const QRect &rect, bool resizable)
+{
+    m_place = rect;
+    m_resizable = resizable;
 }
 
 void KeypadModel::addKey(const QString &label)

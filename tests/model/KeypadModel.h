@@ -21,8 +21,9 @@ struct Seen
     QStringList targets; // the text of each, and whether its signals are blocked
     bool open;
     int result;
-    int focus;              // the place of what has the keyboard, or -1 while the keypad is closed
-    QRect place;            // null where no rule tells it
+    int focus;   // the place of what has the keyboard, or -1 while the keypad is closed
+    QRect place; // null where no rule tells it
+    bool resizable;
     QStringList happenings; // since the last time
 
     QStringList lines() const;
@@ -127,7 +128,7 @@ protected:
     void cancel();
     void addKey(const QString &label);
     World *world() const { return m_world; }
-    void lieAt(const QRect &rect) { m_place = rect; }
+    void lieAt(const QRect &rect, bool resizable);
 
     LineModel m_line;
     QVector<Key> m_keys;
@@ -141,6 +142,7 @@ private:
     int m_result;
     int m_focus;
     QRect m_place;
+    bool m_resizable;
     QStringList m_happenings;
 };
 

@@ -39,13 +39,13 @@ QList<Action> shortened(KeypadName name, QList<Action> actions)
 QString told(KeypadName name, const QList<Action> &actions)
 {
     Session session(name);
-    session.run(actions);
+    QStringList story;
+    session.run(actions, &story);
     QStringList lines(
         QString::fromLatin1("%1: keypad and model differ after").arg(u(className(name))));
-    for (const Action &action : actions)
-        lines << u("    ") + described(action);
-    lines << session.divergence().differences << u("To see it again, add to the known sequences:")
-          << QString::fromLatin1("    { %1, \"%2\" },")
+    lines << u("    ") + story.join(u("\n    ")) << session.divergence().differences
+          << u("To see it again, add to the known sequences:")
+          << QString::fromLatin1("    { \"%1\", \"%2\" },")
                  .arg(u(className(name)), QString::fromLatin1(encoded(actions).toHex()));
     return lines.join(u("\n"));
 }

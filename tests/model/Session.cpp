@@ -117,6 +117,7 @@ Session::Session(KeypadName name)
     , m_machine(newMachine(name, m_surroundings.home()))
     , m_fields(m_machine->fields())
     , m_keys(m_machine->keys())
+    , m_story(nullptr)
     , m_next(0)
     , m_timer(0)
     , m_same(true)
@@ -129,8 +130,9 @@ Session::~Session()
 {
 }
 
-bool Session::run(const QList<Action> &actions)
+bool Session::run(const QList<Action> &actions, QStringList *story)
 {
+    m_story = story;
     m_actions = actions;
     m_next = 0;
     while (m_same && m_next < m_actions.size()) {
@@ -150,6 +152,7 @@ void Session::openAndGoOn()
         ++m_next;
         return;
     }
+    tell(u("open"));
     m_model->open(view, m_surroundings.targetPlace(m_model->target()));
     m_timer = startTimer(0);
     const int result = m_machine->dialog()->exec();
@@ -193,8 +196,16 @@ void Session::doNext()
     ++m_next;
 }
 
+void Session::tell(const QString &what)
+{
+    if (m_story)
+        *m_story << what;
+}
+
 void Session::perform(const Action &action)
 {
+    if (action.kind != Tap && action.kind != LikelyTap)
+        tell(described(action));
     switch (action.kind) {
     case Tap:
         return tap(action.a % int(m_keys.size()));
@@ -283,6 +294,7 @@ void Session::setObject(const Action &action)
 void Session::tap(int key)
 {
     QWidget *widget = m_keys.at(key);
+    tell(u("tap \"") + widget->property("text").toString() + u("\""));
     if (widget->isVisible()) {
         const QPoint place = widget->rect().center();
         sendMouse(widget, QEvent::MouseButtonPress, place, Qt::NoModifier);
@@ -378,6 +390,7 @@ Seen Session::seen()
     seen.result = dialog->result();
     seen.focus = dialog->isVisible() ? int((m_fields + m_keys).indexOf(dialog->focusWidget())) : -1;
     seen.place = m_model->place().isNull() ? QRect() : dialog->geometry();
+    seen.resizable = dialog->maximumSize() != dialog->size();
     seen.happenings = m_recorder.takeHappenings();
     return seen;
 }

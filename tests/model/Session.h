@@ -48,8 +48,8 @@ public:
     explicit Session(KeypadName name);
     ~Session() override;
 
-    // Does what it is told until the two differ; true when they never did.
-    bool run(const QList<Action> &actions);
+    // Does what it is told until the two differ; true when they never did. Tells the story of it.
+    bool run(const QList<Action> &actions, QStringList *story = nullptr);
 
     const Divergence &divergence() const { return m_divergence; }
     int actionsDone() const { return m_next; }
@@ -62,6 +62,7 @@ private:
     void openAndGoOn();
     void doNext();
     void perform(const Action &action);
+    void tell(const QString &what);
     void adjust(const Action &action);
     void setObject(const Action &action);
     void tap(int key);
@@ -78,6 +79,7 @@ private:
     QList<QWidget *> m_fields, m_keys;
     Recorder m_recorder;
     QList<Action> m_actions;
+    QStringList *m_story;
     int m_next, m_timer;
     bool m_same;
     Divergence m_divergence;
