@@ -9,11 +9,22 @@
 // What is done to a keypad is done to its model too, and the two must not differ. The first byte of
 // an input tells which keypad, the rest what is done.
 
+namespace {
+
+class Words
+{
+public:
+    Words() { m_file.create(modelWords()); }
+
+private:
+    DictionaryFile m_file;
+};
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static DictionaryFile dictionary;
-    if (DictionaryFile::entries().isEmpty())
-        dictionary.create(modelWords());
+    static const Words words;
     if (size == 0)
         return 0;
     Report report;

@@ -3,6 +3,7 @@
 
 #include "support/Text.h"
 
+#include <QKeySequence>
 #include <QStringList>
 
 namespace {
@@ -70,6 +71,15 @@ const char *const texts[] = {
     "2024-05-17 24:00:00", "abcdefgh", "2024/05/17", "31-12-2024", "2024-05-17 8:9:10"
 };
 
+const char *const targetNames[] = {
+    "field", "label", "object", "DateTimeField", "derived DateTimeField", "short field", "null"
+};
+
+const char *const validatorNames[] = {
+    "none", "0 to 100", "-50 to 999", "like a number", "none", "nothing is right",
+    "three characters", "in capitals"
+};
+
 const int maxLengths[] = {
     32767, 10, 8, 19, 0, 1, 2, 3, 5, 6, 12, 10, 8, 19, -1, 100000
 };
@@ -87,10 +97,9 @@ Value oneOf(const Value (&values)[count], int choice)
     return values[choice % count];
 }
 
-QString modifierNames(int held)
+QString quoted(const QString &text)
 {
-    return u(held & Qt::ControlModifier ? "Ctrl+" : "")
-        + u(held & Qt::ShiftModifier ? "Shift+" : "");
+    return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
 Action decodedOne(const QByteArray &bytes)
@@ -150,6 +159,22 @@ HardKey hardKeyOf(const Action &action)
     return key;
 }
 
+int targetOf(const Action &action)
+{
+    const int count = action.kind == SetObject ? int(NoTarget) + 1 : int(NoTarget);
+    return action.a % count;
+}
+
+int validatorOf(const Action &action)
+{
+    return action.a % int(sizeof(validatorNames) / sizeof(validatorNames[0]));
+}
+
+bool isOn(const Action &action)
+{
+    return action.a % 2 != 0;
+}
+
 QString textOf(const Action &action)
 {
     return u(oneOf(texts, action.a));
@@ -178,23 +203,31 @@ int deviceTypeOf(const Action &action)
 QString described(const Action &action)
 {
     const QString name = nameOf(action.kind) + QLatin1Char(' ');
+    const HardKey key = hardKeyOf(action);
     switch (action.kind) {
     case Press:
-    case Type: {
-        const HardKey key = hardKeyOf(action);
-        return name + modifierNames(key.modifiers) + QString::number(key.code, 16) + u(" ")
-            + key.text;
-    }
+        return name + QKeySequence(key.code | key.modifiers).toString();
+    case Type:
+        return name + quoted(key.text);
+    case SetObject:
+    case DestroyTarget:
+    case MoveTarget:
+        return name + u(targetNames[targetOf(action)]);
     case SetText:
-        return name + QLatin1Char('"') + textOf(action) + QLatin1Char('"');
+        return name + quoted(textOf(action));
     case SetMaxLength:
         return name + QString::number(maxLengthOf(action));
+    case SetValidator:
+        return name + u(validatorNames[validatorOf(action)]);
     case SetEditMode:
         return name + QString::number(editModeOf(action));
     case SetLimits:
-        return name + QLatin1Char('"') + limitsOf(action) + QLatin1Char('"');
+        return name + quoted(limitsOf(action));
     case SetDeviceType:
         return name + QString::number(deviceTypeOf(action));
+    case SetPasswordEcho:
+    case SetDecimalPoint:
+        return name + u(isOn(action) ? "on" : "off");
     default:
         return QString::fromLatin1("%1%2 %3 %4")
             .arg(name)

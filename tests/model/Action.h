@@ -52,6 +52,10 @@ QList<Action> decoded(const QByteArray &bytes);
 QByteArray encoded(const QList<Action> &actions);
 
 // What the choices of an action stand for.
+enum { NoTarget = 6 }; // targets are counted from 0
+int targetOf(const Action &action);
+int validatorOf(const Action &action);
+bool isOn(const Action &action);
 HardKey hardKeyOf(const Action &action);
 QString textOf(const Action &action);
 int maxLengthOf(const Action &action);

@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QSet>
 
+#include <cstddef>
+
 // What came of a run.
 struct Report
 {

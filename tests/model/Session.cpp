@@ -32,6 +32,7 @@ void giveKeyboardTo(QDialog *dialog)
 {
     QApplication::processEvents();
     QApplication::setActiveWindow(dialog);
+    QApplication::processEvents(); // which an edit line heeds a turn later
     const QList<QLineEdit *> lines = dialog->findChildren<QLineEdit *>();
     for (QLineEdit *line : lines)
         line->deselect();
@@ -59,57 +60,6 @@ quint64 hashOf(const QStringList &lines)
 }
 
 } // namespace
-
-// Recorder
-
-void Recorder::attachTo(QDialog *keypad)
-{
-    m_keypad = keypad;
-    m_target = nullptr;
-    connect(keypad, SIGNAL(accepted()), SLOT(accepted()));
-    connect(keypad, SIGNAL(rejected()), SLOT(rejected()));
-    connect(keypad, SIGNAL(finished(int)), SLOT(finished(int)));
-    const char signal[] = "signal_kTypeKeyPressed(int)";
-    if (keypad->metaObject()->indexOfSignal(signal) >= 0)
-        connect(keypad, SIGNAL(signal_kTypeKeyPressed(int)), SLOT(keyPressed(int)));
-}
-
-QStringList Recorder::takeHappenings()
-{
-    const QStringList list = m_happenings;
-    m_happenings.clear();
-    return list;
-}
-
-// The target has been written by then.
-void Recorder::accepted()
-{
-    note(u("accepted ") + (m_target ? m_target->property("text").toString() : QString()));
-}
-
-void Recorder::rejected()
-{
-    note(u("rejected"));
-}
-
-// Where the result is one of the two above, Qt's versions disagree which signal comes first.
-void Recorder::finished(int result)
-{
-    if (result != QDialog::Accepted && result != QDialog::Rejected)
-        note(u("finished ") + QString::number(result));
-}
-
-void Recorder::keyPressed(int key)
-{
-    note(u("key ") + QString::number(key));
-}
-
-void Recorder::note(const QString &happening)
-{
-    m_happenings << happening + u(m_keypad->isVisible() ? " while it is open" : "");
-}
-
-// Session
 
 Session::Session(KeypadName name)
     : m_name(name)
@@ -236,7 +186,7 @@ void Session::adjust(const Action &action)
     case SetObject:
         return setObject(action);
     case DestroyTarget: {
-        const int index = action.a % Surroundings::targetCount;
+        const int index = targetOf(action);
         if (m_model->target() == index)
             m_recorder.setTarget(nullptr);
         m_model->targetIsGone(index);
@@ -249,17 +199,17 @@ void Session::adjust(const Action &action)
         m_machine->setMaxLength(maxLengthOf(action));
         return m_model->setMaxLength(maxLengthOf(action));
     case SetValidator:
-        m_machine->setValidator(Surroundings::validator(action.a));
-        return m_model->setValidator(Surroundings::validator(action.a));
+        m_machine->setValidator(Surroundings::validator(validatorOf(action)));
+        return m_model->setValidator(Surroundings::validator(validatorOf(action)));
     case SetPasswordEcho:
-        m_machine->setPasswordEchoMode(action.a % 2);
-        return m_model->setPasswordEchoMode(action.a % 2);
+        m_machine->setPasswordEchoMode(isOn(action));
+        return m_model->setPasswordEchoMode(isOn(action));
     case SetEditMode:
         m_machine->setEditMode(editModeOf(action));
         return m_model->setEditMode(editModeOf(action));
     case SetDecimalPoint:
-        m_machine->setDecimalPointEnabled(action.a % 2);
-        return m_model->setDecimalPointEnabled(action.a % 2);
+        m_machine->setDecimalPointEnabled(isOn(action));
+        return m_model->setDecimalPointEnabled(isOn(action));
     case SetLimits:
         m_machine->setLimitToolTip(limitsOf(action));
         return m_model->setLimitToolTip(limitsOf(action));
@@ -270,23 +220,24 @@ void Session::adjust(const Action &action)
     case ChangeView:
         return m_surroundings.changeView(action.a, action.b, action.c);
     case MoveTarget:
-        return m_surroundings.moveTarget(action.a % Surroundings::targetCount, action.b, action.c);
+        return m_surroundings.moveTarget(targetOf(action), action.b, action.c);
     default:
         break;
     }
 }
 
-// One in eight is null. Now and then the application has blocked the target's signals.
+// Now and then the application has blocked the target's signals.
 void Session::setObject(const Action &action)
 {
-    const int index =
-        action.a % 8 == 7 ? int(KeypadModel::noTarget) : action.a % Surroundings::targetCount;
-    if (index != KeypadModel::noTarget) {
-        if (action.b % 8 == 0)
-            m_surroundings.block(index);
-        m_recorder.setTarget(m_surroundings.target(index));
+    const int index = targetOf(action);
+    if (index == NoTarget) {
+        m_machine->setObject(nullptr);
+        return m_model->setObject(KeypadModel::noTarget);
     }
-    m_machine->setObject(index == KeypadModel::noTarget ? nullptr : m_surroundings.target(index));
+    if (action.b % 8 == 0)
+        m_surroundings.block(index);
+    m_recorder.setTarget(m_surroundings.target(index));
+    m_machine->setObject(m_surroundings.target(index));
     m_model->setObject(index);
 }
 

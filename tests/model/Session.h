@@ -4,35 +4,12 @@
 
 #include "Action.h"
 #include "Machine.h"
+#include "Recorder.h"
 #include "Surroundings.h"
 
 #include <QObject>
 #include <QScopedPointer>
 #include <QSet>
-
-// Writes down what a keypad tells.
-class Recorder : public QObject
-{
-    Q_OBJECT
-
-public:
-    void attachTo(QDialog *keypad);
-    void setTarget(const QObject *target) { m_target = target; }
-    QStringList takeHappenings();
-
-private Q_SLOTS:
-    void accepted();
-    void rejected();
-    void finished(int result);
-    void keyPressed(int key);
-
-private:
-    void note(const QString &happening);
-
-    QDialog *m_keypad;
-    const QObject *m_target; // only while it lives
-    QStringList m_happenings;
-};
 
 // How keypad and model came apart.
 struct Divergence

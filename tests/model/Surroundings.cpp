@@ -206,7 +206,7 @@ const QValidator *Surroundings::validator(int index)
     static const ThreeCharacters threeCharacters;
     static const QValidator *const list[] = { nullptr, &hundred, &signedRange,     &numberLike,
                                               nullptr, &nothing, &threeCharacters, &capitals };
-    return list[index % int(sizeof(list) / sizeof(list[0]))];
+    return list[index];
 }
 
 QObject *Surroundings::newTarget(int index)

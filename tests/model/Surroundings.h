@@ -2,6 +2,7 @@
 #ifndef SURROUNDINGS_H
 #define SURROUNDINGS_H
 
+#include "Action.h"
 #include "KeypadModel.h"
 
 #include <QGraphicsView>
@@ -27,7 +28,7 @@ public:
     Surroundings();
     ~Surroundings();
 
-    enum { viewCount = 2, targetCount = 6 };
+    enum { viewCount = 2, targetCount = NoTarget };
 
     World *world() { return &m_world; }
     QWidget *home() { return &m_views[0]; } // the application's window, and parent of the keypad
@@ -44,7 +45,7 @@ public:
     TargetPlace targetPlace(int index) const;
     QStringList seenTargets() const;
 
-    static const QValidator *validator(int index); // null among them
+    static const QValidator *validator(int index); // null where there is none
 
 private:
     Q_DISABLE_COPY(Surroundings)

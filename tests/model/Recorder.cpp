@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "Recorder.h"
+
+#include "support/Text.h"
+
+#include <QDialog>
+#include <QMetaObject>
+#include <QVariant>
+
+void Recorder::attachTo(QDialog *keypad)
+{
+    m_keypad = keypad;
+    m_target = nullptr;
+    connect(keypad, SIGNAL(accepted()), SLOT(accepted()));
+    connect(keypad, SIGNAL(rejected()), SLOT(rejected()));
+    connect(keypad, SIGNAL(finished(int)), SLOT(finished(int)));
+    const char signal[] = "signal_kTypeKeyPressed(int)";
+    if (keypad->metaObject()->indexOfSignal(signal) >= 0)
+        connect(keypad, SIGNAL(signal_kTypeKeyPressed(int)), SLOT(keyPressed(int)));
+}
+
+QStringList Recorder::takeHappenings()
+{
+    const QStringList list = m_happenings;
+    m_happenings.clear();
+    return list;
+}
+
+// The target has been written by then.
+void Recorder::accepted()
+{
+    note(u("accepted ") + (m_target ? m_target->property("text").toString() : QString()));
+}
+
+void Recorder::rejected()
+{
+    note(u("rejected"));
+}
+
+// Where the result is one of the two above, Qt's versions disagree which signal comes first.
+void Recorder::finished(int result)
+{
+    if (result != QDialog::Accepted && result != QDialog::Rejected)
+        note(u("finished ") + QString::number(result));
+}
+
+void Recorder::keyPressed(int key)
+{
+    note(u("key ") + QString::number(key));
+}
+
+void Recorder::note(const QString &happening)
+{
+    m_happenings << happening + u(m_keypad->isVisible() ? " while it is open" : "");
+}
