@@ -68,10 +68,16 @@ bool findPlace(void *address, Outcome *outcome)
     Dl_info frame;
     if (!dladdr(address, &frame) || isOfTheSystem(frame))
         return false;
-    std::snprintf(place, longestPlace, "%s: %s", frame.dli_fname,
-                  frame.dli_sname ? frame.dli_sname : "(no name)");
     const bool isProgram = !std::strstr(frame.dli_fname, ".so");
     *outcome = isProgram || isOf(frame, ours) ? CrashedInOurs : CrashedInside;
+    if (*outcome == CrashedInOurs) {
+        std::snprintf(place, longestPlace, "%s, address %#tx, at allocation %ld", frame.dli_fname,
+                      static_cast<char *>(address) - static_cast<char *>(frame.dli_fbase),
+                      tally->allocations);
+    } else {
+        std::snprintf(place, longestPlace, "%s: %s", frame.dli_fname,
+                      frame.dli_sname ? frame.dli_sname : "(no name)");
+    }
     return true;
 }
 

@@ -85,7 +85,7 @@ protected:
 
 private:
     QDialog *m_keypad;
-    QStringList m_keys;
+    const QStringList m_keys; // never copied: Qt 6 does that without a look at what memory it got
     int m_timer;
 };
 
