@@ -80,7 +80,7 @@ void CharacterKeypad::sendSpecialSymbols(const QString &text)
     } else if (m_lastMode == EnglishMode) {
         setUpEnglish();
         setModes(SymbolMode, EnglishMode);
-    } else {
+    } else if (m_lastMode == ChineseMode) {
         setUpChanese();
         setModes(SymbolMode, ChineseMode);
     }

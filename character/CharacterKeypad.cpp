@@ -68,7 +68,7 @@ constexpr Keypad::KeyCell keyCells[] = {
     { ".",           6,  8, 2, Keypad::InsertLabel    }
 };
 
-const char *const symbolKeys[] = {
+constexpr Keypad::KeyLabel symbolKeys[] = {
     "+", "-", "*", "/", "(", ")", "[", "]", "=", "%",
     "!", "@", "#", "$", "?", ";", ":", "'", "\"",
     "<", ">", "|", ampersandLabel, "\\", "{", "}"

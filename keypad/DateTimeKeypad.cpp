@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DateTimeKeypad.h"
 
-#include "FieldLabel_p.h"
 #include "FittedDisplay_p.h"
+#include "FittedLabel_p.h"
 #include "HMIDeviceInfo.h"
 #include "KeyButton_p.h"
 #include "KeypadFont_p.h"
@@ -42,10 +42,10 @@ const QRgb invalidColour = qRgb(255, 153, 51); // orange
 // date.
 const struct
 {
-    const char *name;
-    const char *label;
-    int row, column; // of the label; the spin box follows it
-    int minimum, maximum;
+    char name[7];
+    char label[8];
+    signed char row, column; // of the label; the spin box follows it
+    short minimum, maximum;
 } fieldCells[] = {
     { "year",   QT_TRANSLATE_NOOP("DateTimeKeypad", "year:"),   0, 0, 1600, 9999 },
     { "month",  QT_TRANSLATE_NOOP("DateTimeKeypad", "month:"),  1, 0,    1,   12 },
@@ -55,7 +55,7 @@ const struct
     { "second", QT_TRANSLATE_NOOP("DateTimeKeypad", "second:"), 2, 2,    0,   59 }
 };
 
-const char *const digitLabels[] = {
+const char digitLabels[][2] = {
     QT_TRANSLATE_NOOP("DateTimeKeypad", "1"), QT_TRANSLATE_NOOP("DateTimeKeypad", "2"),
     QT_TRANSLATE_NOOP("DateTimeKeypad", "3"), QT_TRANSLATE_NOOP("DateTimeKeypad", "4"),
     QT_TRANSLATE_NOOP("DateTimeKeypad", "5"), QT_TRANSLATE_NOOP("DateTimeKeypad", "6"),
@@ -292,12 +292,18 @@ QLayout *DateTimeKeypad::labelledFields()
 {
     QGridLayout *grid = new QGridLayout;
     grid->setSpacing(Keypad::keySpacing);
+    QList<Keypad::SizedLabel *> labels;
     for (int i = 0; i < FieldCount; ++i) {
-        QLabel *label = new Keypad::FieldLabel(tr(fieldCells[i].label), this);
+        Keypad::FittedLabel<QLabel> *label = new Keypad::FittedLabel<QLabel>(
+            tr(fieldCells[i].label), this, Keypad::anyWidth, Keypad::oneLine);
         label->setObjectName(QLatin1String(fieldCells[i].name) + QLatin1String("Label"));
+        label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+        label->setMinimumWidth(1); // for the policy would take the room that a value needs
+        labels << label;
         grid->addWidget(label, fieldCells[i].row, fieldCells[i].column);
         grid->addWidget(m_fields[i], fieldCells[i].row, fieldCells[i].column + 1);
     }
+    Keypad::shareLabelSizes(labels);
     return grid;
 }
 

@@ -27,9 +27,9 @@ const int anyWidth = 0;
 const int oneLine = 1;
 
 // A label that makes do with less room than its text asks for. It looks as any label does; only a
-// text that would be clipped is drawn smaller.
+// text that would be clipped is drawn smaller, and with it the labels that share its size, if any.
 template <class Label>
-class FittedLabel : public Label
+class FittedLabel : public Label, public SizedLabel
 {
 public:
     // The label asks for \a mostLines lines at most; a layout that is short of room leaves it a
@@ -52,16 +52,27 @@ public:
         return boundedSize(this, size, (m_mostLines + 3) / 4);
     }
 
+    QWidget *widget() override { return this; }
+    QString label() const override { return this->text(); }
+    int wholeLabelSize() const override { return wholeTextSize(this); }
+
 protected:
+    bool event(QEvent *event) override
+    {
+        heed(event);
+        return Label::event(event);
+    }
+
     void paintEvent(QPaintEvent *event) override
     {
-        if (fits(plainSize(this), this->size())) {
+        const int size = sharedLabelSize(anySize);
+        if (size == anySize && fits(plainSize(this), this->size())) {
             Label::paintEvent(event);
             return;
         }
         QPainter painter(this);
         this->drawFrame(&painter);
-        paintFittedText(&painter, this, SizedLabel::anySize);
+        paintFittedText(&painter, this, size);
     }
 
 private:

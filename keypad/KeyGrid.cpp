@@ -17,26 +17,26 @@ namespace {
 const struct
 {
     KeyAction action;
-    const char *objectName;
-    const char *accessibleName; // null where the label says it
+    char objectName[13];
+    char accessibleName[13]; // empty where the label says it
 } actionNames[] = {
     { InsertSpace,    "spaceKey",     QT_TRANSLATE_NOOP("Keypad", "Space")        },
     { ToggleSign,     "signKey",      QT_TRANSLATE_NOOP("Keypad", "Sign")         },
     { MoveLeft,       "leftKey",      QT_TRANSLATE_NOOP("Keypad", "Cursor left")  },
     { MoveRight,      "rightKey",     QT_TRANSLATE_NOOP("Keypad", "Cursor right") },
     { Backspace,      "backspaceKey", QT_TRANSLATE_NOOP("Keypad", "Backspace")    },
-    { Cancel,         "escKey",       nullptr                                     },
-    { Confirm,        "enterKey",     nullptr                                     },
-    { SwitchCase,     "capsKey",      nullptr                                     },
-    { SwitchLanguage, "languageKey",  nullptr                                     },
-    { SwitchSymbols,  "symbolsKey",   nullptr                                     }
+    { Cancel,         "escKey",       ""                                          },
+    { Confirm,        "enterKey",     ""                                          },
+    { SwitchCase,     "capsKey",      ""                                          },
+    { SwitchLanguage, "languageKey",  ""                                          },
+    { SwitchSymbols,  "symbolsKey",   ""                                          }
 };
 
 // A style sheet could not name a key by these labels.
 const struct
 {
     char label;
-    const char *objectName;
+    char objectName[10];
 } signNames[] = {
     { '.', "pointKey"  },
     { ',', "commaKey"  },
@@ -71,7 +71,7 @@ void nameKey(QToolButton *key, KeyAction action, const QString &label)
         if (name.action != action)
             continue;
         key->setObjectName(QLatin1String(name.objectName));
-        if (name.accessibleName) {
+        if (*name.accessibleName) {
             QtDifferences::setAccessibleName(
                 key, QCoreApplication::translate("Keypad", name.accessibleName));
         }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "KeypadFont_p.h"
 
-#include "LabelSizes_p.h"
+#include "KeyButton_p.h"
 
 #include <QAbstractSpinBox>
 #include <QDialog>
@@ -112,7 +112,12 @@ void setUpFonts(QDialog *keypad, int points)
 {
     const QList<QWidget *> parts = keypad->findChildren<QWidget *>();
     new FontShare(keypad, parts, font(points));
-    shareLabelSizes(parts);
+    QList<SizedLabel *> keys;
+    for (QWidget *part : parts) {
+        if (KeyButton *key = dynamic_cast<KeyButton *>(part))
+            keys << key;
+    }
+    shareLabelSizes(keys);
 }
 
 } // namespace Keypad

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "LabelSizes_p.h"
 
-#include <QAbstractButton>
 #include <QEvent>
 #include <QFont>
 #include <QTextBoundaryFinder>
@@ -39,32 +38,11 @@ bool isWord(const QString &label)
     return finder.toNextBoundary() < shown.length();
 }
 
-// Labels that share a size.
-struct Group
-{
-    QFont font;
-    bool showsWords;
-    int size;
-};
-
 // Qt 5 has two ways to say the same family, which make equal fonts differ: their descriptions are
 // the same.
 bool areAlike(const QFont &one, const QFont &other)
 {
     return one == other || one.toString() == other.toString();
-}
-
-Group &groupOf(SizedLabel *label, QVector<Group> *groups)
-{
-    const QFont font = label->widget()->font();
-    const bool showsWord = isWord(label->label());
-    for (int i = 0; i < groups->size(); ++i) {
-        if (groups->at(i).showsWords == showsWord && areAlike(groups->at(i).font, font))
-            return (*groups)[i];
-    }
-    const Group group = { font, showsWord, SizedLabel::anySize };
-    groups->append(group);
-    return groups->last();
 }
 
 } // namespace
@@ -75,7 +53,7 @@ SizedLabel::~SizedLabel()
         m_sizes->remove(this);
 }
 
-void SizedLabel::shareLabelSize(const QSharedPointer<LabelSizes> &sizes)
+void SizedLabel::shareLabelSize(const QExplicitlySharedDataPointer<LabelSizes> &sizes)
 {
     sizes->add(this); // which may fail for want of memory
     m_sizes = sizes;
@@ -108,7 +86,7 @@ LabelSizes::LabelSizes()
 
 void LabelSizes::add(SizedLabel *label)
 {
-    const Member member = { label, QString(), false, SizedLabel::anySize, unknownSize };
+    const Member member = { label, QString(), false, false, SizedLabel::anySize, unknownSize };
     m_members.append(member);
 }
 
@@ -163,37 +141,47 @@ void LabelSizes::measure(Member *member)
     SizedLabel *label = member->label;
     member->isShown = isShown(label);
     member->text = label->label();
+    member->showsWord = isWord(member->text);
     member->wholeSize = member->isShown ? label->wholeLabelSize() : int(SizedLabel::anySize);
     member->sharedSize = unknownSize;
     m_isCurrent = false;
 }
 
+// The place of the first label that shares its size with the one at \a place.
+int LabelSizes::firstLike(int place) const
+{
+    const Member &member = m_members.at(place);
+    const QFont font = member.label->widget()->font();
+    int first = 0;
+    while (m_members.at(first).showsWord != member.showsWord
+           || !areAlike(m_members.at(first).label->widget()->font(), font))
+        ++first;
+    return first;
+}
+
 void LabelSizes::share()
 {
     m_isCurrent = true;
-    QVector<Group> groups;
+    QVector<int> sizes(m_members.size(), SizedLabel::anySize);
     for (int i = 0; i < m_members.size(); ++i) {
-        Group &group = groupOf(m_members.at(i).label, &groups);
+        int &size = sizes[firstLike(i)];
         if (m_members.at(i).wholeSize != SizedLabel::noSize)
-            group.size = qMin(group.size, m_members.at(i).wholeSize);
+            size = qMin(size, m_members.at(i).wholeSize);
     }
     for (int i = 0; i < m_members.size(); ++i) {
         Member &member = m_members[i];
-        const int size = groupOf(member.label, &groups).size;
+        const int size = sizes.at(firstLike(i));
         if (member.sharedSize != unknownSize && member.sharedSize != size)
             member.label->widget()->update();
         member.sharedSize = size;
     }
 }
 
-void shareLabelSizes(const QList<QWidget *> &parts)
+void shareLabelSizes(const QList<SizedLabel *> &labels)
 {
-    const QSharedPointer<LabelSizes> keySizes(new LabelSizes);
-    const QSharedPointer<LabelSizes> fieldSizes(new LabelSizes);
-    for (QWidget *part : parts) {
-        if (SizedLabel *label = dynamic_cast<SizedLabel *>(part))
-            label->shareLabelSize(qobject_cast<QAbstractButton *>(part) ? keySizes : fieldSizes);
-    }
+    const QExplicitlySharedDataPointer<LabelSizes> sizes(new LabelSizes);
+    for (SizedLabel *label : labels)
+        label->shareLabelSize(sizes);
 }
 
 } // namespace Keypad

@@ -3,7 +3,7 @@
 #define LABELSIZES_P_H
 
 #include <QList>
-#include <QSharedPointer>
+#include <QSharedData>
 #include <QString>
 #include <QVector>
 
@@ -35,7 +35,7 @@ public:
     virtual int wholeLabelSize() const = 0;
 
     // Once; all labels with the same \a sizes are drawn alike.
-    void shareLabelSize(const QSharedPointer<LabelSizes> &sizes);
+    void shareLabelSize(const QExplicitlySharedDataPointer<LabelSizes> &sizes);
 
 protected:
     // \a size, or less if the others say so.
@@ -45,13 +45,13 @@ protected:
     void heed(const QEvent *event);
 
 private:
-    QSharedPointer<LabelSizes> m_sizes;
+    QExplicitlySharedDataPointer<LabelSizes> m_sizes;
 };
 
 // The sizes at which the labels of one keypad are drawn that do not fit. Those in the same font
 // that are one character share one size, and so do those that are words: sizes that follow the
 // width of each label look ragged. A label for which there is no room at any size is left out.
-class LabelSizes
+class LabelSizes : public QSharedData
 {
 public:
     LabelSizes();
@@ -68,6 +68,7 @@ private:
     {
         SizedLabel *label;
         QString text; // as it was measured
+        bool showsWord;
         bool isShown;
         int wholeSize;
         int sharedSize; // unknown until the label has been measured and is about to be painted
@@ -76,14 +77,15 @@ private:
     int placeOf(const SizedLabel *label) const;
     static bool isMeasured(const Member &member);
     void measure(Member *member);
+    int firstLike(int place) const;
     void share();
 
     QVector<Member> m_members;
     bool m_isCurrent; // no member has changed or gone since the sizes were shared
 };
 
-// Lets the keys among the \a parts of a keypad share their sizes, and the labels of fields theirs.
-void shareLabelSizes(const QList<QWidget *> &parts);
+// Lets \a labels share their sizes.
+void shareLabelSizes(const QList<SizedLabel *> &labels);
 
 } // namespace Keypad
 
