@@ -76,6 +76,8 @@ private Q_SLOTS:
     void whateverAnApplicationCallsIt();
     void theOthersFollowALabelThatGrows();
     void theOthersFollowAKeyThatGoes();
+    void theOthersFollowTheFirstKeyAndTheLast();
+    void aKeyInsistsOnItsHeightAlone();
     void aKeyWithoutRoomIsNoMeasure();
     void sizesFollowFontAndSheet();
     void sizesFollowWhatIsEnabled();
@@ -184,6 +186,28 @@ void tst_PaintedKeys::theOthersFollowAKeyThatGoes()
     delete changed;
     QVERIFY(watch.isPainted());
     QCOMPARE(complaintAbout(other, stylesFrame()), QString());
+}
+
+void tst_PaintedKeys::theOthersFollowTheFirstKeyAndTheLast()
+{
+    FaceStage stage(8, QSize(480, 272));
+    const QList<QToolButton *> keys = stage.shownKeys();
+    for (QToolButton *changed : { keys.first(), keys.last() }) {
+        const QString label = changed->text();
+        changed->setText(longLabelFor(changed));
+        QApplication::processEvents();
+        for (QToolButton *key : keys)
+            QCOMPARE(complaintAbout(key, stylesFrame()), QString());
+        changed->setText(label);
+    }
+}
+
+void tst_PaintedKeys::aKeyInsistsOnItsHeightAlone()
+{
+    FaceStage stage(8, QSize(480, 272));
+    const QList<QToolButton *> keys = stage.shownKeys();
+    for (const QToolButton *key : keys)
+        QCOMPARE(key->minimumSizeHint(), QSize(0, 20));
 }
 
 void tst_PaintedKeys::aKeyWithoutRoomIsNoMeasure()
