@@ -101,9 +101,10 @@ bool fitsAt(int pixels, const QToolButton *key, const QMargins &around)
 }
 
 // Whether a label is more than one character to a reader. "&&" is one ampersand.
-bool showsWord(const QToolButton *key)
+template <class Widget>
+bool showsWord(const Widget *widget)
 {
-    return key->text().length() > 1 && key->text() != u("&&");
+    return widget->text().length() > 1 && widget->text() != u("&&");
 }
 
 // Qt 5 has two ways to say the same family, which only the fonts' descriptions make equal.
@@ -252,7 +253,8 @@ int wholePixelSize(QLabel *twin, const QSize &size, const QMargins &around)
     return fitsAt(pixels, twin->font(), twin->text(), 0, room) ? pixels : 0;
 }
 
-// The labels of fields have one size, but for those that cannot be whole.
+// The labels of fields that show one character have one size, and so have those that show a word;
+// but for those that cannot be whole.
 int sharedPixelSize(const QLabel *label, const QMargins &around)
 {
     int size = pixelSizeOf(label);
@@ -262,7 +264,8 @@ int sharedPixelSize(const QLabel *label, const QMargins &around)
     for (const QLabel *other : labels) {
         const QScopedPointer<QLabel> twin(newTwin(other));
         const int whole = wholePixelSize(twin.data(), other->size(), around);
-        if (whole > 0 && isSameFont(other->font(), label->font()))
+        if (whole > 0 && showsWord(other) == showsWord(label)
+            && isSameFont(other->font(), label->font()))
             size = qMin(size, whole);
     }
     return size;

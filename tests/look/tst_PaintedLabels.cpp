@@ -33,6 +33,7 @@ private Q_SLOTS:
     void theLongestPinyinIsWhole_data();
     void theLongestPinyinIsWhole();
     void sizesFollowTheKeypads();
+    void oneCharacterIsDrawnApartFromWords();
     void everyStateShows_data();
     void everyStateShows();
     void whateverTheText_data();
@@ -94,6 +95,19 @@ void tst_PaintedLabels::sizesFollowTheKeypads()
         for (QLabel *label : labels)
             QCOMPARE(complaintAbout(label, QMargins()), QString());
     }
+}
+
+void tst_PaintedLabels::oneCharacterIsDrawnApartFromWords()
+{
+    FaceStage stage(8, QSize(240, 320));
+    stage.fillLabels(u("Sekunden und Minuten"));
+    const QList<QLabel *> labels = stage.shownLabels();
+    QLabel *character = labels.first();
+    character->setText(u("I"));
+    QApplication::processEvents();
+    QVERIFY(character->QLabel::sizeHint().width() <= character->width());
+    for (QLabel *label : labels)
+        QCOMPARE(complaintAbout(label, QMargins()), QString());
 }
 
 void tst_PaintedLabels::everyStateShows_data()
