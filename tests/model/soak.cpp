@@ -15,6 +15,14 @@ namespace {
 
 const int bytesInSequence = 1600; // 400 actions
 
+// The platform that draws nowhere tells over and over what it cannot do.
+HMI_MESSAGE_HANDLER(printOthers, text)
+{
+    const QString message = QtDifferences::messageText(text);
+    if (!message.startsWith(u("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 void tell(const char *prefix, const Report *reports, qint64 milliseconds)
 {
     int actions = 0, states = 0;
@@ -56,6 +64,7 @@ int main(int argc, char *argv[])
     const unsigned first = arguments.value(2).toUInt();
     if (milliseconds <= 0 || arguments.size() != 3)
         return 2;
+    QtDifferences::installMessageHandler(printOthers);
     QtDifferences::readLiteralsAsGbk();
     DictionaryFile dictionary;
     dictionary.create(modelWords());
