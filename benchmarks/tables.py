@@ -50,5 +50,5 @@ def renew_speed(tree, counted, timed, file_row, exceptions):
             lines.append(f'| {name} | {figure.library:.0f} | {figure.floor:.0f} | '
                          f'{figure.ratio():.2f} | {figure.most:g} |')
     file = counted[file_row]
-    lines.append(f'| {file_row} | {file.library / 1024:.0f} | | | {file.most / 1024:g} |')
+    lines.append(f'| {file_row} | {file.library / 1024:.1f} | | | {file.most / 1024:g} |')
     renew(tree, 'memory', lines)
