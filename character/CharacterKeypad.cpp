@@ -111,6 +111,7 @@ CharacterKeypad::CharacterKeypad(QWidget *parent, Qt::WindowFlags flags)
 {
     static_assert(letterCount == LetterCount, "a symbol for each letter key");
     static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
+    Keypad::setDialogFont(this, Keypad::manyKeysPoints);
     drawWindow();
     Keypad::setUpFonts(this, Keypad::manyKeysPoints); // before a panel is shown, and takes a style
     m_signalMapper = new QSignalMapper(this);

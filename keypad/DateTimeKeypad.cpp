@@ -121,6 +121,7 @@ DateTimeKeypad::DateTimeKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
     , m_formatLength(0)
 {
+    Keypad::setDialogFont(this, Keypad::manyKeysPoints);
     setUpDisplay();
     setUpFields();
     setUpButtons();

@@ -55,7 +55,6 @@ public:
             if (qobject_cast<QAbstractSpinBox *>(part))
                 part->installEventFilter(this);
         }
-        keypad->setFont(font); // last, so that nothing is left to be inherited
         keypad->installEventFilter(this);
     }
 
@@ -106,6 +105,11 @@ QFont font(int points)
     font.setPixelSize(qRound(points * 96 / 72.0f));
     settle(&font);
     return font;
+}
+
+void setDialogFont(QDialog *keypad, int points)
+{
+    keypad->setFont(font(points));
 }
 
 void setUpFonts(QDialog *keypad, int points)

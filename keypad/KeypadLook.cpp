@@ -124,6 +124,7 @@ KeyBoardLineEdit *createEditLine(QDialog *keypad)
 void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine,
                     const KeyCell *cells, const KeyMembers &members)
 {
+    setDialogFont(keypad, fewKeysPoints);
     colourDialog(keypad);
     *tipLabel = createTipLabel(keypad);
     *editLine = createEditLine(keypad);
