@@ -179,7 +179,10 @@ void DateTimeKeypad::setText(const QString &text)
 
 void DateTimeKeypad::setSpinBoxDayRange(int year, int month)
 {
-    m_fields[Day]->setRange(1, daysIn(year, month));
+    const int days = daysIn(year, month);
+    // Setting the same range once more would lay out the keypad at every key.
+    if (m_fields[Day]->minimum() != 1 || m_fields[Day]->maximum() != days)
+        m_fields[Day]->setRange(1, days);
 }
 
 QSpinBox *DateTimeKeypad::focusSpinBox()
