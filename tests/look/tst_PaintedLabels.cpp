@@ -189,6 +189,9 @@ void tst_PaintedLabels::howeverItIsSetUp_data()
                    { "top", Qt::AlignLeft | Qt::AlignTop, 0, -1, QFrame::NoFrame },
                    { "margin", Qt::AlignLeft | Qt::AlignVCenter, 6, -1, QFrame::NoFrame },
                    { "indent", Qt::AlignLeft | Qt::AlignVCenter, 0, 9, QFrame::NoFrame },
+                   { "indent at the top", Qt::AlignHCenter | Qt::AlignTop, 0, 9, QFrame::NoFrame },
+                   { "indent at the bottom", Qt::AlignRight | Qt::AlignBottom, 0, 9,
+                     QFrame::NoFrame },
                    { "frame", Qt::AlignLeft | Qt::AlignBottom, 0, 0, QFrame::Box } };
     for (const auto &text : texts) {
         for (const auto &setUp : setUps)
