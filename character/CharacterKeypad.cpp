@@ -105,15 +105,16 @@ CharacterKeypad *CharacterKeypad::instance()
 
 CharacterKeypad::CharacterKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
+    , m_signalMapper(nullptr)
     , m_dictionary(nullptr)
     , m_mode(EnglishMode)
     , m_lastMode(EnglishMode)
 {
     static_assert(letterCount == LetterCount, "a symbol for each letter key");
     static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
-    Keypad::setDialogFont(this, Keypad::manyKeysPoints);
+    const QFont font = Keypad::setDialogFont(this, Keypad::manyKeysPoints);
     drawWindow();
-    Keypad::setUpFonts(this, Keypad::manyKeysPoints); // before a panel is shown, and takes a style
+    Keypad::setPartFonts(this, font); // before a panel is shown, and takes a style
     m_signalMapper = new QSignalMapper(this);
     connect(m_signalMapper, HMI_MAPPED_STRING_SIGNAL, this, SLOT(sendContent(QString)));
     setUpEnglish();
@@ -126,7 +127,7 @@ CharacterKeypad::~CharacterKeypad()
     PinyinDictionary::close(m_dictionary);
     // A mapper looks at itself once more after it has sent. It outlives a keypad that is destroyed
     // by what its key did, such as a field that closes its screen.
-    if (sender() == m_signalMapper) {
+    if (m_signalMapper && sender() == m_signalMapper) {
         m_signalMapper->setParent(nullptr);
         m_signalMapper->deleteLater();
     }
@@ -161,7 +162,9 @@ void CharacterKeypad::keyPressEvent(QKeyEvent *event)
 {
     if (Keypad::isConfirmKey(event->key()))
         sendContent(QLatin1String(enterLabel));
-    else if (!Keypad::closeForApplication(this, event->key()))
+    else if (Keypad::belongsToApplication(event->key()))
+        Keypad::closeFor(this, &CharacterKeypad::signal_kTypeKeyPressed, event->key());
+    else
         QDialog::keyPressEvent(event);
 }
 

@@ -39,9 +39,9 @@ class QValidator;
  * one candidate, rows in ranking order. Give it an index on "py", or every letter reads the whole
  * table; at most 256 rows of a pinyin are seen. The file is opened when the keypad is built, under
  * the connection name "pinyin", and queried once for each letter typed, or taken back while others
- * are left; without it there are no candidates, and one that appears later is not looked for. The
- * keypad writes nothing into it, but an application may, through that
- * connection, so that words can be learned.
+ * are left, and once more where that fails; without it there are no candidates, nor where only a part
+ * of them can be read, and one that appears later is not looked for. The keypad writes nothing into
+ * it, but an application may, through that connection, so that words can be learned.
  *
  * While another process has the file locked for writing, a letter has no candidates; nothing waits,
  * and the next letter asks again. In return the keypad may keep the file locked for reading from

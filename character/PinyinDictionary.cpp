@@ -16,7 +16,6 @@ namespace {
 const char driverName[] = "QSQLITE";
 const char connectionName[] = "pinyin";
 const char tableName[] = "pinyin";
-const char rowsByPosition[] = "SELECT * FROM pinyin";
 const int candidateColumn = 1;
 
 // No waiting, so that a key is never held up by a process that writes the file. Not read-only,
@@ -34,7 +33,7 @@ public:
 protected:
     QString selectStatement() const override
     {
-        const QString rows = QLatin1String(rowsByPosition);
+        const QString rows = QLatin1String("SELECT * FROM ") + tableName();
         return filter().isEmpty() ? rows : rows + QLatin1String(" WHERE ") + filter();
     }
 };
@@ -46,7 +45,7 @@ bool hasSucceeded(const QSqlTableModel *model)
     return query.isActive() && !query.lastError().isValid();
 }
 
-// An error may be over in a moment, but holds no key up: it is asked again once.
+// Asks once more after an error, which may be over by then; not again, for a key waits.
 bool query(QSqlTableModel *model, const QString &filter)
 {
     model->setFilter(filter); // queries at once, unless the last query failed

@@ -8,6 +8,7 @@
 #include "KeypadFont_p.h"
 #include "KeypadLook_p.h"
 #include "KeypadRules_p.h"
+#include "LabelSizes_p.h"
 #include "QtDifferences_p.h"
 
 #include <QColor>
@@ -18,6 +19,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QList>
 #include <QLocale>
 #include <QPalette>
 #include <QSpinBox>
@@ -42,8 +44,8 @@ const QRgb invalidColour = qRgb(255, 153, 51); // orange
 // date.
 const struct
 {
-    char name[7];
-    char label[8];
+    Keypad::KeyLabel name;
+    Keypad::KeyLabel label;
     signed char row, column; // of the label; the spin box follows it
     short minimum, maximum;
 } fieldCells[] = {
@@ -55,7 +57,7 @@ const struct
     { "second", QT_TRANSLATE_NOOP("DateTimeKeypad", "second:"), 2, 2,    0,   59 }
 };
 
-const char digitLabels[][2] = {
+constexpr Keypad::KeyLabel digitLabels[] = {
     QT_TRANSLATE_NOOP("DateTimeKeypad", "1"), QT_TRANSLATE_NOOP("DateTimeKeypad", "2"),
     QT_TRANSLATE_NOOP("DateTimeKeypad", "3"), QT_TRANSLATE_NOOP("DateTimeKeypad", "4"),
     QT_TRANSLATE_NOOP("DateTimeKeypad", "5"), QT_TRANSLATE_NOOP("DateTimeKeypad", "6"),
@@ -121,7 +123,7 @@ DateTimeKeypad::DateTimeKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
     , m_formatLength(0)
 {
-    Keypad::setDialogFont(this, Keypad::manyKeysPoints);
+    const QFont font = Keypad::setDialogFont(this, Keypad::manyKeysPoints);
     setUpDisplay();
     setUpFields();
     setUpButtons();
@@ -131,7 +133,7 @@ DateTimeKeypad::DateTimeKeypad(QWidget *parent, Qt::WindowFlags flags)
     layout->addLayout(displayAndDigits(), 2);
     layout->addLayout(labelledFields(), 3);
     layout->addLayout(commands(), 1);
-    Keypad::setUpFonts(this, Keypad::manyKeysPoints);
+    Keypad::setPartFonts(this, font);
 }
 
 DateTimeKeypad::~DateTimeKeypad() = default;

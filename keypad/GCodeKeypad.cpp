@@ -142,7 +142,9 @@ void GCodeKeypad::keyPressEvent(QKeyEvent *event)
 {
     if (Keypad::isConfirmKey(event->key()))
         Keypad::confirm(this, m_object, m_lineEdit);
-    else if (!Keypad::closeForApplication(this, event->key()))
+    else if (Keypad::belongsToApplication(event->key()))
+        Keypad::closeFor(this, &GCodeKeypad::signal_kTypeKeyPressed, event->key());
+    else
         QDialog::keyPressEvent(event);
 }
 

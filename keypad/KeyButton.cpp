@@ -86,8 +86,8 @@ void KeyButton::paintEvent(QPaintEvent *event)
     painter.drawControl(QStyle::CE_ToolButtonLabel, option);
 }
 
-// A key may have less room than when its size was shared: a style sheet can give a pressed key
-// another border, too.
+// Measured anew when a key has another label, font or room: a style sheet can give a pressed key
+// another border. Fonts that are installed later are not noticed.
 const KeyButton::Measure &KeyButton::measure() const
 {
     const QSize room = labelRoom();

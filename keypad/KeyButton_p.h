@@ -38,7 +38,7 @@ private:
         QString label;
         QFont font;
         QSize room;
-        int size;     // at which the label is drawn if it is on its own
+        int size;     // at which the label is drawn if it is on its own, or anySize
         bool isWhole; // then
     };
 

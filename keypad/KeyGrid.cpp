@@ -17,8 +17,8 @@ namespace {
 const struct
 {
     KeyAction action;
-    char objectName[13];
-    char accessibleName[13]; // empty where the label says it
+    KeyLabel objectName;
+    KeyLabel accessibleName; // empty where the label says it
 } actionNames[] = {
     { InsertSpace,    "spaceKey",     QT_TRANSLATE_NOOP("Keypad", "Space")        },
     { ToggleSign,     "signKey",      QT_TRANSLATE_NOOP("Keypad", "Sign")         },
@@ -36,7 +36,7 @@ const struct
 const struct
 {
     char label;
-    char objectName[10];
+    KeyLabel objectName;
 } signNames[] = {
     { '.', "pointKey"  },
     { ',', "commaKey"  },
@@ -84,7 +84,7 @@ void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, const Key
 {
     for (int i = 0; i < members.size(); ++i) {
         QToolButton *key = createKey(keypad, labelText(cells[i]));
-        nameKey(key, KeyAction(cells[i].action), key->text());
+        nameKey(key, cells[i].action, key->text());
         grid->addWidget(key, cells[i].row, cells[i].column, 1, cells[i].columnSpan);
         *members.at(i) = key;
     }

@@ -15,7 +15,7 @@ class QToolButton;
 
 namespace Keypad {
 
-enum KeyAction {
+enum KeyAction : unsigned char {
     InsertLabel,
     InsertSpace,
     ToggleSign,
@@ -60,7 +60,7 @@ struct KeyCell
     KeyLabel label;
     signed char row, column; // cell in the grid, from 0
     signed char columnSpan;  // at least 1
-    unsigned char action;    // a KeyAction
+    KeyAction action;
 };
 
 // Names \a key by what it does, or else by \a label, the one that it has at first: its object name,

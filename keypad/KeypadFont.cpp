@@ -2,6 +2,7 @@
 #include "KeypadFont_p.h"
 
 #include "KeyButton_p.h"
+#include "LabelSizes_p.h"
 
 #include <QAbstractSpinBox>
 #include <QDialog>
@@ -107,15 +108,17 @@ QFont font(int points)
     return font;
 }
 
-void setDialogFont(QDialog *keypad, int points)
+QFont setDialogFont(QDialog *keypad, int points)
 {
-    keypad->setFont(font(points));
+    const QFont common = font(points);
+    keypad->setFont(common);
+    return common;
 }
 
-void setUpFonts(QDialog *keypad, int points)
+void setPartFonts(QDialog *keypad, const QFont &font)
 {
     const QList<QWidget *> parts = keypad->findChildren<QWidget *>();
-    new FontShare(keypad, parts, font(points));
+    new FontShare(keypad, parts, font);
     QList<SizedLabel *> keys;
     for (QWidget *part : parts) {
         if (KeyButton *key = dynamic_cast<KeyButton *>(part))

@@ -15,13 +15,14 @@ const int tipPoints = 20;
 // The keypads' font at \a points, in pixels at 96 dots per inch whatever the screen reports.
 QFont font(int points);
 
-// Sets that font on \a keypad. To be called first: parts take it over as they are made.
-void setDialogFont(QDialog *keypad, int points);
+// Sets that font on \a keypad, and returns it. To be called first: parts take it over as they are
+// made.
+QFont setDialogFont(QDialog *keypad, int points);
 
-// Makes that font one of its own of every part that \a keypad has by now. A font that the
-// application sets on the keypad later reaches them, as with any dialog, unless there is a style
-// sheet. Keys whose labels do not fit share the sizes at which these are drawn.
-void setUpFonts(QDialog *keypad, int points);
+// Makes \a font, that of \a keypad, one of its own of every part that the keypad has by now. A font
+// that the application sets on the keypad later reaches them, as with any dialog, unless there is a
+// style sheet. Keys whose labels do not fit share the sizes at which these are drawn.
+void setPartFonts(QDialog *keypad, const QFont &font);
 
 } // namespace Keypad
 

@@ -124,7 +124,7 @@ KeyBoardLineEdit *createEditLine(QDialog *keypad)
 void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine,
                     const KeyCell *cells, const KeyMembers &members)
 {
-    setDialogFont(keypad, fewKeysPoints);
+    const QFont common = setDialogFont(keypad, fewKeysPoints);
     colourDialog(keypad);
     *tipLabel = createTipLabel(keypad);
     *editLine = createEditLine(keypad);
@@ -139,7 +139,7 @@ void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editL
     layout->addWidget(*tipLabel);
     layout->addWidget(*editLine);
     layout->addLayout(grid);
-    setUpFonts(keypad, fewKeysPoints);
+    setPartFonts(keypad, common);
     (*tipLabel)->setFont(font(tipPoints));
     keypad->resize(unplacedSize);
 }

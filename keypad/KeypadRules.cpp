@@ -78,7 +78,7 @@ void toggleSign(QLineEdit *editLine)
 void act(KeyAction action, const QString &label, QDialog *keypad, QObject *target,
          QLineEdit *editLine)
 {
-    switch (int(action)) { // the keypad whose keys show other key sets sees to these itself
+    switch (action) {
     case InsertLabel:
         editLine->insert(label);
         break;
@@ -103,6 +103,10 @@ void act(KeyAction action, const QString &label, QDialog *keypad, QObject *targe
     case Confirm:
         confirm(keypad, target, editLine);
         break;
+    case SwitchCase:
+    case SwitchLanguage:
+    case SwitchSymbols:
+        break; // the keypad that has such keys sees to them itself
     }
 }
 
@@ -157,7 +161,7 @@ void press(const QObject *key, const KeyCell *cells, const KeyMembers &members, 
 {
     const int place = placeOf(key, members);
     if (place >= 0)
-        act(KeyAction(cells[place].action), (*members.at(place))->text(), keypad, target, editLine);
+        act(cells[place].action, (*members.at(place))->text(), keypad, target, editLine);
 }
 
 QRect mappedToGlobal(const QWidget *widget, const QRect &rect)
@@ -191,15 +195,9 @@ bool isConfirmKey(int key)
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-bool closeForApplication(QDialog *keypad, int key)
+bool belongsToApplication(int key)
 {
-    if (!isPanelType13() || !isApplicationKey(key))
-        return false;
-    const QPointer<QDialog> alive(keypad); // a slot that hears of its end may destroy it
-    keypad->reject();
-    if (alive)
-        QMetaObject::invokeMethod(keypad, "signal_kTypeKeyPressed", Q_ARG(int, key));
-    return true;
+    return isPanelType13() && isApplicationKey(key);
 }
 
 void mapKey(QSignalMapper *mapper, QObject *key, const QString &label)

@@ -4,9 +4,9 @@
 
 #include "KeyGrid_p.h"
 
+#include <QDialog>
 #include <QPointer>
 
-class QDialog;
 class QLabel;
 class QLineEdit;
 class QRect;
@@ -61,10 +61,19 @@ bool isPanelType13();
 // Whether hard key \a key, a Qt::Key value, confirms an entry.
 bool isConfirmKey(int key);
 
-// Rejects \a keypad, lets it emit signal_kTypeKeyPressed() and returns true when hard key \a key
-// belongs to the application on the panel type that is set now. The signal comes last, so that the
-// application meets a closed keypad.
-bool closeForApplication(QDialog *keypad, int key);
+// Whether hard key \a key belongs to the application on the panel type that is set now.
+bool belongsToApplication(int key);
+
+// Closes \a keypad for such a key, and then emits \a signal, so that the application meets a closed
+// keypad; one that a slot has destroyed at its end emits nothing.
+template <class Keypad>
+void closeFor(Keypad *keypad, void (Keypad::*signal)(int), int key)
+{
+    const QPointer<QDialog> alive(keypad);
+    keypad->reject();
+    if (alive)
+        (keypad->*signal)(key);
+}
 
 // Maps \a key to \a label in \a mapper, in place of what it was mapped to. A mapper watches a
 // sender's destruction once more with every mapping; on a panel that runs for months these

@@ -12,11 +12,13 @@ namespace {
 
 const int unknownSize = 0;
 
+// A key that an application has taken out of its keypad is no part of what the keypad shows.
 bool isShown(SizedLabel *label)
 {
     const QWidget *widget = label->widget();
     const QWidget *parent = widget->parentWidget();
-    return !widget->isHidden() && (parent->isWindow() || parent->isVisibleTo(parent->window()));
+    return parent && !widget->isHidden()
+        && (parent->isWindow() || parent->isVisibleTo(parent->window()));
 }
 
 // A button shows "&&" as one ampersand, and underlines what follows a single one.
@@ -86,7 +88,7 @@ LabelSizes::LabelSizes()
 
 void LabelSizes::add(SizedLabel *label)
 {
-    const Member member = { label, QString(), false, false, SizedLabel::anySize, unknownSize };
+    const Member member = { label, QString(), false, false, SizedLabel::anySize, 0, unknownSize };
     m_members.append(member);
 }
 
@@ -126,14 +128,10 @@ int LabelSizes::placeOf(const SizedLabel *label) const
     return place;
 }
 
-// Asked of all members whenever one is painted: hence the look at where a text lies, which is the
-// same place while it has not been set anew.
 bool LabelSizes::isMeasured(const Member &member)
 {
-    if (member.sharedSize == unknownSize || member.isShown != isShown(member.label))
-        return false;
-    const QString label = member.label->label();
-    return label.constData() == member.text.constData() || label == member.text;
+    return member.sharedSize != unknownSize && member.isShown == isShown(member.label)
+        && member.text == member.label->label();
 }
 
 void LabelSizes::measure(Member *member)
@@ -147,16 +145,19 @@ void LabelSizes::measure(Member *member)
     m_isCurrent = false;
 }
 
-// The place of the first label that shares its size with the one at \a place.
+// The place of the first label that shares its size with the one at \a place, of which those before
+// it know theirs.
 int LabelSizes::firstLike(int place) const
 {
     const Member &member = m_members.at(place);
     const QFont font = member.label->widget()->font();
-    int first = 0;
-    while (m_members.at(first).showsWord != member.showsWord
-           || !areAlike(m_members.at(first).label->widget()->font(), font))
-        ++first;
-    return first;
+    for (int i = 0; i < place; ++i) {
+        const Member &other = m_members.at(i);
+        if (other.first == i && other.showsWord == member.showsWord
+            && areAlike(other.label->widget()->font(), font))
+            return i;
+    }
+    return place;
 }
 
 void LabelSizes::share()
@@ -164,13 +165,14 @@ void LabelSizes::share()
     m_isCurrent = true;
     QVector<int> sizes(m_members.size(), SizedLabel::anySize);
     for (int i = 0; i < m_members.size(); ++i) {
-        int &size = sizes[firstLike(i)];
-        if (m_members.at(i).wholeSize != SizedLabel::noSize)
-            size = qMin(size, m_members.at(i).wholeSize);
+        Member &member = m_members[i];
+        member.first = firstLike(i);
+        if (member.wholeSize != SizedLabel::noSize)
+            sizes[member.first] = qMin(sizes.at(member.first), member.wholeSize);
     }
     for (int i = 0; i < m_members.size(); ++i) {
         Member &member = m_members[i];
-        const int size = sizes.at(firstLike(i));
+        const int size = sizes.at(member.first);
         if (member.sharedSize != unknownSize && member.sharedSize != size)
             member.label->widget()->update();
         member.sharedSize = size;

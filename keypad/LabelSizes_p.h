@@ -48,9 +48,10 @@ private:
     QExplicitlySharedDataPointer<LabelSizes> m_sizes;
 };
 
-// The sizes at which the labels of one keypad are drawn that do not fit. Those in the same font
-// that are one character share one size, and so do those that are words: sizes that follow the
-// width of each label look ragged. A label for which there is no room at any size is left out.
+// The sizes at which those labels of a keypad's keys, or of its fields, are drawn that do not fit.
+// Those in the same font that are one character share one size, and so do those that are words:
+// sizes that follow the width of each label look ragged. A label for which there is no room at any
+// size is left out.
 class LabelSizes : public QSharedData
 {
 public:
@@ -71,6 +72,7 @@ private:
         bool showsWord;
         bool isShown;
         int wholeSize;
+        int first;      // the place of the first member that shares its size
         int sharedSize; // unknown until the label has been measured and is about to be painted
     };
 

@@ -136,7 +136,9 @@ void NumericKeypad::keyPressEvent(QKeyEvent *event)
 {
     if (Keypad::isConfirmKey(event->key()))
         Keypad::confirm(this, m_object, m_lineEdit);
-    else if (!Keypad::closeForApplication(this, event->key()))
+    else if (Keypad::belongsToApplication(event->key()))
+        Keypad::closeFor(this, &NumericKeypad::signal_kTypeKeyPressed, event->key());
+    else
         QDialog::keyPressEvent(event);
 }
 

@@ -116,7 +116,9 @@ void vondKeypad::keyPressEvent(QKeyEvent *event)
 {
     if (Keypad::isConfirmKey(event->key()))
         Keypad::confirm(this, m_object, m_lineEdit);
-    else if (!Keypad::closeForApplication(this, event->key()))
+    else if (Keypad::belongsToApplication(event->key()))
+        Keypad::closeFor(this, &vondKeypad::signal_kTypeKeyPressed, event->key());
+    else
         QDialog::keyPressEvent(event);
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/AnyKeypad.h"
+#include "support/Translators.h"
 
 #include <QColor>
 #include <QFile>
@@ -57,6 +58,20 @@ QString accessibleName(const QDialog *keypad, const char *name)
     return part ? part->accessibleName() : QString();
 }
 
+// Parts whose labels say too little, and the context in which their names are translated.
+const struct
+{
+    const char *name, *context, *accessible;
+} signs[] = { { "leftKey", "Keypad", "Cursor left" },
+              { "rightKey", "Keypad", "Cursor right" },
+              { "spaceKey", "Keypad", "Space" },
+              { "signKey", "Keypad", "Sign" },
+              { "backspaceKey", "Keypad", "Backspace" },
+              { "plusKey", "Keypad", "Increase" },
+              { "previousPageKey", "Keypad", "Previous page" },
+              { "nextPageKey", "Keypad", "Next page" },
+              { "yearField", "DateTimeKeypad", "year:" } };
+
 } // namespace
 
 class tst_ObjectNames : public QObject
@@ -68,6 +83,7 @@ private Q_SLOTS:
     void everyPartHasTheNameInTheManual();
     void aSheetReachesAKeyByItsName();
     void signsHaveAccessibleNames();
+    void accessibleNamesAreTranslated();
 };
 
 void tst_ObjectNames::everyPartHasTheNameInTheManual()
@@ -93,22 +109,21 @@ void tst_ObjectNames::aSheetReachesAKeyByItsName()
 
 void tst_ObjectNames::signsHaveAccessibleNames()
 {
-    static const struct
-    {
-        const char *name, *accessible;
-    } signs[] = { { "leftKey", "Cursor left" },
-                  { "rightKey", "Cursor right" },
-                  { "spaceKey", "Space" },
-                  { "signKey", "Sign" },
-                  { "backspaceKey", "Backspace" },
-                  { "plusKey", "Increase" },
-                  { "previousPageKey", "Previous page" },
-                  { "nextPageKey", "Next page" },
-                  { "yearField", "year:" } };
     AnyStage stage;
     for (const auto &sign : signs) {
         if (stage.dialog()->findChild<QWidget *>(u(sign.name)))
             QCOMPARE(accessibleName(stage.dialog(), sign.name), u(sign.accessible));
+    }
+}
+
+void tst_ObjectNames::accessibleNamesAreTranslated()
+{
+    ContextTranslator translator;
+    AnyStage stage;
+    for (const auto &sign : signs) {
+        if (stage.dialog()->findChild<QWidget *>(u(sign.name)))
+            QCOMPARE(accessibleName(stage.dialog(), sign.name),
+                     u("%1/%2").arg(u(sign.context), u(sign.accessible)));
     }
 }
 

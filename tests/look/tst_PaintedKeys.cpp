@@ -5,6 +5,7 @@
 
 #include <QIcon>
 #include <QPixmap>
+#include <QScopedPointer>
 
 // Every key of every keypad shows its label, as a plain button does where it has room.
 
@@ -76,6 +77,7 @@ private Q_SLOTS:
     void whateverAnApplicationCallsIt();
     void theOthersFollowALabelThatGrows();
     void theOthersFollowAKeyThatGoes();
+    void theOthersDoWithoutAKeyThatIsTakenOut();
     void theOthersFollowTheFirstKeyAndTheLast();
     void aKeyInsistsOnItsHeightAlone();
     void aKeyWithoutRoomIsNoMeasure();
@@ -186,6 +188,19 @@ void tst_PaintedKeys::theOthersFollowAKeyThatGoes()
     delete changed;
     QVERIFY(watch.isPainted());
     QVERIFY(watchOfFirst.isPainted());
+    QCOMPARE(complaintAbout(other, stylesFrame()), QString());
+}
+
+void tst_PaintedKeys::theOthersDoWithoutAKeyThatIsTakenOut()
+{
+    FaceStage stage(8, QSize(480, 272));
+    QToolButton *other = ::key(stage.dialog(), u(currentKind().cancelLabel));
+    QScopedPointer<QToolButton> taken(::key(stage.dialog(), u(currentKind().confirmLabel)));
+    taken->setText(longLabelFor(taken.data()));
+    QApplication::processEvents();
+    taken->setParent(nullptr);
+    taken->show();
+    QApplication::processEvents();
     QCOMPARE(complaintAbout(other, stylesFrame()), QString());
 }
 
