@@ -78,7 +78,7 @@ void toggleSign(QLineEdit *editLine)
 void act(KeyAction action, const QString &label, QDialog *keypad, QObject *target,
          QLineEdit *editLine)
 {
-    switch (action) {
+    switch (int(action)) { // a keypad with other actions sees to them itself
     case InsertLabel:
         editLine->insert(label);
         break;
@@ -103,10 +103,6 @@ void act(KeyAction action, const QString &label, QDialog *keypad, QObject *targe
     case Confirm:
         confirm(keypad, target, editLine);
         break;
-    case SwitchCase:
-    case SwitchLanguage:
-    case SwitchSymbols:
-        break; // the keypad that has such keys sees to them itself
     }
 }
 
