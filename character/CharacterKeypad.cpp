@@ -111,7 +111,6 @@ CharacterKeypad::CharacterKeypad(QWidget *parent, Qt::WindowFlags flags)
     , m_lastMode(EnglishMode)
 {
     static_assert(letterCount == LetterCount, "a symbol for each letter key");
-    static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
     const QFont font = Keypad::setDialogFont(this, Keypad::manyKeysPoints);
     drawWindow();
     Keypad::setPartFonts(this, font); // before a panel is shown, and takes a style
@@ -190,7 +189,7 @@ void CharacterKeypad::drawWindow()
     grid->addWidget(m_lineEdit, 0, 0, 1, gridColumns);
     grid->addWidget(m_chnPanel, 1, 0, 1, gridColumns);
     grid->addWidget(m_numPanel, 2, 0, 1, gridColumns);
-    Keypad::addKeys(this, grid, keyCells, keyMembers());
+    Keypad::addKeys(this, grid, Keypad::KeyTable(keyCells, m_keys));
 }
 
 void CharacterKeypad::setUpMapper()
@@ -207,15 +206,6 @@ void CharacterKeypad::setUpConnect()
         connect(key, SIGNAL(clicked()), m_signalMapper, SLOT(map()));
 }
 
-QVector<QToolButton **> CharacterKeypad::keyMembers()
-{
-    QVector<QToolButton **> members;
-    for (QToolButton *&letter : m_letterKeys)
-        members << &letter;
-    return members << &m_modeKey << &m_spaceKey << &m_enterKey << &m_escKey << &m_delKey
-                   << &m_languageKey << &m_symbolKey << &m_commaKey << &m_periodKey;
-}
-
 // Each panel answers null beyond its last key.
 QList<QWidget *> CharacterKeypad::mappedKeys()
 {
@@ -226,10 +216,8 @@ QList<QWidget *> CharacterKeypad::mappedKeys()
         keys << candidate;
     for (short i = 0; QToolButton *paging = m_chnPanel->getToolButton(i); ++i)
         keys << paging;
-    for (QToolButton *letter : m_letterKeys)
-        keys << letter;
-    keys << m_modeKey << m_delKey << m_symbolKey << m_commaKey << m_spaceKey << m_periodKey
-         << m_languageKey << m_escKey << m_enterKey;
+    for (QToolButton *key : m_keys)
+        keys << key;
     return keys;
 }
 
@@ -252,11 +240,11 @@ void CharacterKeypad::setUpEnglishCaps()
 void CharacterKeypad::setUpSpecialSymbols()
 {
     for (int i = 0; i < LetterCount; ++i)
-        m_letterKeys[i]->setText(QLatin1String(symbolKeys[i]));
-    m_modeKey->setText(QLatin1String("~"));
-    m_modeKey->setEnabled(true);
-    m_languageKey->setText(QLatin1String(backLabel));
-    m_symbolKey->setText(QLatin1String("_"));
+        m_keys[i]->setText(QLatin1String(symbolKeys[i]));
+    m_keys[ModeKey]->setText(QLatin1String("~"));
+    m_keys[ModeKey]->setEnabled(true);
+    m_keys[LanguageKey]->setText(QLatin1String(backLabel));
+    m_keys[SymbolKey]->setText(QLatin1String("_"));
     showPanel(m_numPanel, m_chnPanel);
     setUpMapper();
 }
@@ -272,12 +260,12 @@ void CharacterKeypad::labelLetters(const QString &letters, const char *modeLabel
                                    const char *languageLabel)
 {
     for (int i = 0; i < LetterCount; ++i)
-        m_letterKeys[i]->setText(letters.mid(i, 1));
-    m_modeKey->setText(QLatin1String(modeLabel));
-    m_modeKey->setEnabled(*modeLabel != '\0');
-    m_languageKey->setText(QLatin1String(languageLabel));
-    m_symbolKey->setText(QLatin1String(symbolsLabel));
-    m_symbolKey->setEnabled(true);
+        m_keys[i]->setText(letters.mid(i, 1));
+    m_keys[ModeKey]->setText(QLatin1String(modeLabel));
+    m_keys[ModeKey]->setEnabled(*modeLabel != '\0');
+    m_keys[LanguageKey]->setText(QLatin1String(languageLabel));
+    m_keys[SymbolKey]->setText(QLatin1String(symbolsLabel));
+    m_keys[SymbolKey]->setEnabled(true);
 }
 
 // The dictionary

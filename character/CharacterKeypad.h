@@ -8,7 +8,6 @@
 #include <QList>
 #include <QPointer>
 #include <QStringList>
-#include <QVector>
 
 class ChnPanel;
 class KeyBoardLineEdit;
@@ -39,9 +38,9 @@ class QValidator;
  * one candidate, rows in ranking order. Give it an index on "py", or every letter reads the whole
  * table; at most 256 rows of a pinyin are seen. The file is opened when the keypad is built, under
  * the connection name "pinyin", and queried once for each letter typed, or taken back while others
- * are left, and once more where that fails; without it there are no candidates, nor where only a part
- * of them can be read, and one that appears later is not looked for. The keypad writes nothing into
- * it, but an application may, through that connection, so that words can be learned.
+ * are left, and once more where that fails; without it there are no candidates, nor where only a
+ * part of them can be read, and one that appears later is not looked for. The keypad writes nothing
+ * into it, but an application may, through that connection, so that words can be learned.
  *
  * While another process has the file locked for writing, a letter has no candidates; nothing waits,
  * and the next letter asks again. In return the keypad may keep the file locked for reading from
@@ -125,13 +124,24 @@ private Q_SLOTS:
     void sendContent(const QString &text);
 
 private:
-    enum { LetterCount = 26, KeyCount = LetterCount + 9 };
+    enum {
+        LetterCount = 26,
+        ModeKey = LetterCount,
+        SpaceKey,
+        EnterKey,
+        EscKey,
+        DelKey,
+        LanguageKey,
+        SymbolKey,
+        CommaKey,
+        PeriodKey,
+        KeyCount
+    };
     enum Mode { EnglishMode, SymbolMode, ChineseMode };
 
     void drawWindow();
     void setUpMapper();
     void setUpConnect();
-    QVector<QToolButton **> keyMembers();
     QList<QWidget *> mappedKeys();
 
     void setUpEnglish();
@@ -159,16 +169,7 @@ private:
     KeyBoardLineEdit *m_lineEdit;
     ChnPanel *m_chnPanel;
     NumPanel *m_numPanel;
-    QToolButton *m_letterKeys[LetterCount];
-    QToolButton *m_modeKey;
-    QToolButton *m_spaceKey;
-    QToolButton *m_enterKey;
-    QToolButton *m_escKey;
-    QToolButton *m_delKey;
-    QToolButton *m_languageKey;
-    QToolButton *m_symbolKey;
-    QToolButton *m_commaKey;
-    QToolButton *m_periodKey;
+    QToolButton *m_keys[KeyCount]; // the letters "q" to "m", row by row, then the others
     QSignalMapper *m_signalMapper;
     QStringList m_candidates;
     QSqlTableModel *m_dictionary;

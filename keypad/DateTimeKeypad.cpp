@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "DateTimeKeypad.h"
 
-#include "FittedDisplay_p.h"
 #include "FittedLabel_p.h"
 #include "HMIDeviceInfo.h"
+#include "KeyBoardLineEdit.h"
 #include "KeyButton_p.h"
 #include "KeypadFont_p.h"
 #include "KeypadLook_p.h"
@@ -236,7 +236,7 @@ void DateTimeKeypad::slot_editingFinished()
 
 void DateTimeKeypad::setUpDisplay()
 {
-    m_lineEdit = new Keypad::FittedDisplay(this);
+    m_lineEdit = new KeyBoardLineEdit(this);
     m_lineEdit->setObjectName(QLatin1String(Keypad::editLineName));
     m_lineEdit->setEnabled(false);
     m_lineEdit->setAlignment(Qt::AlignCenter);

@@ -94,8 +94,7 @@ GCodeKeypad *GCodeKeypad::instance()
 GCodeKeypad::GCodeKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
-    static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
-    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, keyCells, keyMembers());
+    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, Keypad::KeyTable(keyCells, m_keys));
 }
 
 GCodeKeypad::~GCodeKeypad() = default;
@@ -163,16 +162,5 @@ void GCodeKeypad::showEvent(QShowEvent *event)
 
 void GCodeKeypad::slot_toolButton_clicked()
 {
-    Keypad::press(sender(), keyCells, keyMembers(), this, m_object, m_lineEdit);
-}
-
-QVector<QToolButton **> GCodeKeypad::keyMembers()
-{
-    QVector<QToolButton **> members;
-    for (auto &row : m_charKeys) {
-        for (QToolButton *&key : row)
-            members << &key;
-    }
-    return members << &m_escKey << &m_bspKey << &m_leftKey << &m_rightKey << &m_enterKey
-                   << &m_spaceKey;
+    Keypad::press(sender(), Keypad::KeyTable(keyCells, m_keys), this, m_object, m_lineEdit);
 }

@@ -6,7 +6,6 @@
 
 #include <QDialog>
 #include <QPointer>
-#include <QVector>
 
 class KeyBoardLineEdit;
 class QLabel;
@@ -117,22 +116,14 @@ private Q_SLOTS:
     void slot_toolButton_clicked();
 
 private:
-    enum { CharRows = 4, CharColumns = 10, KeyCount = CharRows * CharColumns + 6 };
-
-    QVector<QToolButton **> keyMembers();
+    enum { KeyCount = 46 };
 
     static GCodeKeypad *m_instance;
 
     QPointer<QObject> m_object;
     QLabel *m_tipLabel;
     KeyBoardLineEdit *m_lineEdit;
-    QToolButton *m_charKeys[CharRows][CharColumns];
-    QToolButton *m_escKey;
-    QToolButton *m_bspKey;
-    QToolButton *m_leftKey;
-    QToolButton *m_rightKey;
-    QToolButton *m_enterKey;
-    QToolButton *m_spaceKey;
+    QToolButton *m_keys[KeyCount]; // in the order of their cells
 };
 
 #endif

@@ -80,20 +80,21 @@ void nameKey(QToolButton *key, KeyAction action, const QString &label)
     key->setObjectName(nameByLabel(label));
 }
 
-void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, const KeyMembers &members)
+void addKeys(QDialog *keypad, QGridLayout *grid, const KeyTable &table)
 {
-    for (int i = 0; i < members.size(); ++i) {
-        QToolButton *key = createKey(keypad, labelText(cells[i]));
-        nameKey(key, cells[i].action, key->text());
-        grid->addWidget(key, cells[i].row, cells[i].column, 1, cells[i].columnSpan);
-        *members.at(i) = key;
+    for (int i = 0; i < table.keyCount; ++i) {
+        const KeyCell &cell = table.cells[i];
+        QToolButton *key = createKey(keypad, labelText(cell));
+        nameKey(key, cell.action, key->text());
+        grid->addWidget(key, cell.row, cell.column, 1, cell.columnSpan);
+        table.keys[i] = key;
     }
 }
 
-int placeOf(const QObject *key, const KeyMembers &members)
+int placeOf(const QObject *key, const KeyTable &table)
 {
-    for (int i = 0; i < members.size(); ++i) {
-        if (*members.at(i) == key)
+    for (int i = 0; i < table.keyCount; ++i) {
+        if (table.keys[i] == key)
             return i;
     }
     return -1;

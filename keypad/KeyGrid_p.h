@@ -2,8 +2,6 @@
 #ifndef KEYGRID_P_H
 #define KEYGRID_P_H
 
-#include <QVector>
-
 class QDialog;
 class QGridLayout;
 class QObject;
@@ -67,15 +65,27 @@ struct KeyCell
 // the same in every keypad, and an accessible name where its label is but a sign.
 void nameKey(QToolButton *key, KeyAction action, const QString &label);
 
-// Where a keypad keeps its keys, in the order of their cells.
-typedef QVector<QToolButton **> KeyMembers;
+// A keypad's cells and, in the same order, its keys.
+struct KeyTable
+{
+    template <int count>
+    KeyTable(const KeyCell (&cells)[count], QToolButton *(&keys)[count])
+        : cells(cells)
+        , keys(keys)
+        , keyCount(count)
+    {
+    }
 
-// Makes a key of each of \a cells, owned by \a keypad, in \a grid, and stores it in \a members, of
-// which there are as many.
-void addKeys(QDialog *keypad, QGridLayout *grid, const KeyCell *cells, const KeyMembers &members);
+    const KeyCell *cells;
+    QToolButton **keys;
+    int keyCount;
+};
 
-// The position of \a key in \a members, or -1.
-int placeOf(const QObject *key, const KeyMembers &members);
+// Makes the keys of \a table, owned by \a keypad, in \a grid.
+void addKeys(QDialog *keypad, QGridLayout *grid, const KeyTable &table);
+
+// The position of \a key in \a table, or -1.
+int placeOf(const QObject *key, const KeyTable &table);
 
 } // namespace Keypad
 

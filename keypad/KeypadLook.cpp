@@ -122,7 +122,7 @@ KeyBoardLineEdit *createEditLine(QDialog *keypad)
 }
 
 void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine,
-                    const KeyCell *cells, const KeyMembers &members)
+                    const KeyTable &table)
 {
     const QFont common = setDialogFont(keypad, fewKeysPoints);
     colourDialog(keypad);
@@ -130,9 +130,9 @@ void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editL
     *editLine = createEditLine(keypad);
     QGridLayout *grid = new QGridLayout;
     grid->setSpacing(keySpacing);
-    addKeys(keypad, grid, cells, members);
-    for (QToolButton *const *key : members)
-        QObject::connect(*key, SIGNAL(clicked()), keypad, SLOT(slot_toolButton_clicked()));
+    addKeys(keypad, grid, table);
+    for (int i = 0; i < table.keyCount; ++i)
+        QObject::connect(table.keys[i], SIGNAL(clicked()), keypad, SLOT(slot_toolButton_clicked()));
 
     QVBoxLayout *layout = new QVBoxLayout(keypad);
     setUpLayout(layout, 0);

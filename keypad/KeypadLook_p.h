@@ -36,10 +36,10 @@ const char editLineName[] = "editLine";
 KeyBoardLineEdit *createEditLine(QDialog *keypad);
 
 // The whole face of a keypad whose keys never change: colours, fonts, the first size, a line for
-// limits in \a tipLabel, hidden, the edit line in \a editLine and, below them, the keys of \a cells
-// in \a members. Clicks go to the keypad's slot_toolButton_clicked().
+// limits in \a tipLabel, hidden, the edit line in \a editLine and, below them, the keys of \a
+// table. Clicks go to the keypad's slot_toolButton_clicked().
 void setUpFixedFace(QDialog *keypad, QLabel **tipLabel, KeyBoardLineEdit **editLine,
-                    const KeyCell *cells, const KeyMembers &members);
+                    const KeyTable &table);
 
 } // namespace Keypad
 

@@ -152,12 +152,12 @@ void confirm(QDialog *keypad, QObject *target, const QLineEdit *editLine)
         keypad->accept();
 }
 
-void press(const QObject *key, const KeyCell *cells, const KeyMembers &members, QDialog *keypad,
-           QObject *target, QLineEdit *editLine)
+void press(const QObject *key, const KeyTable &table, QDialog *keypad, QObject *target,
+           QLineEdit *editLine)
 {
-    const int place = placeOf(key, members);
+    const int place = placeOf(key, table);
     if (place >= 0)
-        act(cells[place].action, (*members.at(place))->text(), keypad, target, editLine);
+        act(table.cells[place].action, table.keys[place]->text(), keypad, target, editLine);
 }
 
 QRect mappedToGlobal(const QWidget *widget, const QRect &rect)

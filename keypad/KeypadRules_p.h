@@ -38,9 +38,9 @@ void showLimits(QLabel *tipLabel, const QString &text);
 // Does nothing without a target: the keypad stays open.
 void confirm(QDialog *keypad, QObject *target, const QLineEdit *editLine);
 
-// Does what \a key, one of \a members, does by its cell; nothing if it is none of them.
-void press(const QObject *key, const KeyCell *cells, const KeyMembers &members, QDialog *keypad,
-           QObject *target, QLineEdit *editLine);
+// Does what \a key, one of \a table, does by its cell; nothing if it is none of them.
+void press(const QObject *key, const KeyTable &table, QDialog *keypad, QObject *target,
+           QLineEdit *editLine);
 
 // The rectangle between the two corners of \a rect, each mapped by \a widget to global coordinates.
 QRect mappedToGlobal(const QWidget *widget, const QRect &rect);

@@ -80,8 +80,7 @@ NumericKeypad *NumericKeypad::instance()
 NumericKeypad::NumericKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
-    static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
-    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, keyCells, keyMembers());
+    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, Keypad::KeyTable(keyCells, m_keys));
     setEditMode(decimalBase);
 }
 
@@ -150,13 +149,5 @@ void NumericKeypad::showEvent(QShowEvent *event)
 
 void NumericKeypad::slot_toolButton_clicked()
 {
-    Keypad::press(sender(), keyCells, keyMembers(), this, m_object, m_lineEdit);
-}
-
-QVector<QToolButton **> NumericKeypad::keyMembers()
-{
-    QVector<QToolButton **> members;
-    for (QToolButton *&key : m_keys)
-        members << &key;
-    return members;
+    Keypad::press(sender(), Keypad::KeyTable(keyCells, m_keys), this, m_object, m_lineEdit);
 }

@@ -6,7 +6,6 @@
 
 #include <QDialog>
 #include <QPointer>
-#include <QVector>
 
 class KeyBoardLineEdit;
 class QLabel;
@@ -117,8 +116,6 @@ private Q_SLOTS:
 
 private:
     enum { KeyCount = 23 };
-
-    QVector<QToolButton **> keyMembers();
 
     static NumericKeypad *m_instance;
 

@@ -68,8 +68,7 @@ vondKeypad *vondKeypad::instance()
 vondKeypad::vondKeypad(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags | Qt::FramelessWindowHint)
 {
-    static_assert(sizeof(keyCells) == KeyCount * sizeof(keyCells[0]), "a cell for each key");
-    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, keyCells, keyMembers());
+    Keypad::setUpFixedFace(this, &m_tipLabel, &m_lineEdit, Keypad::KeyTable(keyCells, m_keys));
 }
 
 vondKeypad::~vondKeypad() = default;
@@ -130,14 +129,5 @@ void vondKeypad::showEvent(QShowEvent *event)
 
 void vondKeypad::slot_toolButton_clicked()
 {
-    Keypad::press(sender(), keyCells, keyMembers(), this, m_object, m_lineEdit);
-}
-
-QVector<QToolButton **> vondKeypad::keyMembers()
-{
-    QVector<QToolButton **> members;
-    for (QToolButton *&key : m_wordKeys)
-        members << &key;
-    return members << &m_signKey << &m_leftKey << &m_rightKey << &m_escKey << &m_bspKey
-                   << &m_spaceKey << &m_enterKey;
+    Keypad::press(sender(), Keypad::KeyTable(keyCells, m_keys), this, m_object, m_lineEdit);
 }

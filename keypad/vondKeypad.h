@@ -6,7 +6,6 @@
 
 #include <QDialog>
 #include <QPointer>
-#include <QVector>
 
 class KeyBoardLineEdit;
 class QLabel;
@@ -114,23 +113,14 @@ private Q_SLOTS:
     void slot_toolButton_clicked();
 
 private:
-    enum { WordKeyCount = 22, KeyCount = WordKeyCount + 7 };
-
-    QVector<QToolButton **> keyMembers();
+    enum { KeyCount = 29 };
 
     static vondKeypad *m_instance;
 
     QPointer<QObject> m_object;
     QLabel *m_tipLabel;
     KeyBoardLineEdit *m_lineEdit;
-    QToolButton *m_wordKeys[WordKeyCount]; // letters, digits and ".", row by row
-    QToolButton *m_signKey;
-    QToolButton *m_leftKey;
-    QToolButton *m_rightKey;
-    QToolButton *m_escKey;
-    QToolButton *m_bspKey;
-    QToolButton *m_spaceKey;
-    QToolButton *m_enterKey;
+    QToolButton *m_keys[KeyCount]; // in the order of their cells
 };
 
 #endif
