@@ -127,28 +127,43 @@ class Campaign:
 
     def attempt(self, worker, fault):
         former = self.results.of(fault)
-        if former and former["outcome"] != "survived":
+        if former and self.still_holds(former):
             return former
-        survived = former["survived"] if former else {}
+        survived = former.get("survived", {}) if former else {}
         suites = [suite for suite in self.in_order(fault)
                   if survived.get(suite.name) != self.reach.programs[suite.name]]
         if fault.key in self.explained:
             suites = [suite for suite in suites if suite.seconds < QUICK]
-        if former and not suites:
+        if survived and not suites:
             return former
         outcome = self.build_with(worker, fault)
         if outcome:
             return self.results.keep(fault, outcome=outcome)
         for suite in suites:
-            outcome, _ = worker.run(suite, 10 + 5 * suite.seconds)
+            outcome = self.outcome(worker, suite)
             if outcome in ("failed", "too slow"):
-                result = self.results.keep(fault, outcome="killed", by=suite.name, how=outcome)
+                result = self.results.keep(fault, outcome="killed", by=suite.name, how=outcome,
+                                           program=self.reach.programs[suite.name])
                 self.count_kill(result)
                 return result
             survived[suite.name] = self.reach.programs[suite.name]
         if self.is_optimized_away(worker, fault):
             return self.results.keep(fault, outcome="changes nothing")
         return self.results.keep(fault, outcome="survived", survived=survived)
+
+    # A suite that has changed may no longer notice what it did.
+    def still_holds(self, result):
+        if result["outcome"] == "killed":
+            return result["program"] == self.reach.programs.get(result["by"])
+        return result["outcome"] != "survived"
+
+    # Other work on the machine can slow a suite down once.
+    def outcome(self, worker, suite):
+        for _ in range(2):
+            outcome, _ = worker.run(suite, 10 + 5 * suite.seconds)
+            if outcome != "too slow":
+                break
+        return outcome
 
     # What keeps a fault from being tried, if anything does.
     def build_with(self, worker, fault):
