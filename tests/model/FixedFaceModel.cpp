@@ -122,17 +122,12 @@ GCodeModel::GCodeModel(World *world)
 {
 }
 
-bool GCodeModel::canOpen(const ViewPlace &view) const
-{
-    return view.registered || !coversTarget();
-}
-
 // A target that lies in another widget is mapped to the screen by itself, which counts its own
 // place twice; and all of it once more by the viewport.
 void GCodeModel::open(const ViewPlace &view, const TargetPlace &target)
 {
     FixedFaceModel::open({ false, QPoint(), QRect() }, target);
-    if (!coversTarget())
+    if (!view.registered || !coversTarget())
         return;
     QRect rect = target.geometry;
     if (target.hasParent)
@@ -145,14 +140,9 @@ bool GCodeModel::coversTarget() const
     return target() != noTarget && world()->targets.at(target()).isWidget;
 }
 
-// The axis keypad, which needs a view
+// The axis keypad
 
 AxisModel::AxisModel(World *world)
     : FixedFaceModel(world, { axisKeys, "└─┘", "-" })
 {
-}
-
-bool AxisModel::canOpen(const ViewPlace &view) const
-{
-    return view.registered;
 }

@@ -45,7 +45,6 @@ class GCodeModel : public FixedFaceModel
 public:
     explicit GCodeModel(World *world);
 
-    bool canOpen(const ViewPlace &view) const override;
     void open(const ViewPlace &view, const TargetPlace &target) override;
 
 private:
@@ -56,8 +55,6 @@ class AxisModel : public FixedFaceModel
 {
 public:
     explicit AxisModel(World *world);
-
-    bool canOpen(const ViewPlace &view) const override;
 };
 
 #endif

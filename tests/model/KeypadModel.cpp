@@ -123,11 +123,6 @@ void KeypadModel::targetIsGone(int target)
         m_target = noTarget;
 }
 
-bool KeypadModel::canOpen(const ViewPlace &) const
-{
-    return true;
-}
-
 void KeypadModel::open(const ViewPlace &view, const TargetPlace &)
 {
     m_open = true;

@@ -81,8 +81,7 @@ public:
     void setPasswordEchoMode(bool on);
     void targetIsGone(int target);
 
-    // Whether the keypad may be shown, which one may not be without a view; and that it is.
-    virtual bool canOpen(const ViewPlace &view) const;
+    // Without a view it stays where it is.
     virtual void open(const ViewPlace &view, const TargetPlace &target);
     void closeWith(int result);
     virtual void lostTheKeyboard(); // after it was closed

@@ -4,6 +4,7 @@
 #include "Session.h"
 #include "support/Text.h"
 
+#include <cstdio>
 #include <random>
 
 namespace {
@@ -36,37 +37,64 @@ QList<Action> shortened(KeypadName name, QList<Action> actions)
     return actions;
 }
 
-QString told(KeypadName name, const QList<Action> &actions)
+QString row(KeypadName name, const QList<Action> &actions)
+{
+    return QString::fromLatin1("    { \"%1\", \"%2\" },")
+        .arg(u(className(name)), QString::fromLatin1(encoded(actions).toHex()));
+}
+
+QString told(KeypadName name, const QList<Action> &actions, const QStringList &firstSeen)
 {
     Session session(name);
     QStringList story;
-    session.run(actions, &story);
-    QStringList lines(
-        QString::fromLatin1("%1: keypad and model differ after").arg(u(className(name))));
-    lines << u("    ") + story.join(u("\n    ")) << session.divergence().differences
-          << u("To see it again, add to the known sequences:")
-          << QString::fromLatin1("    { \"%1\", \"%2\" },")
-                 .arg(u(className(name)), QString::fromLatin1(encoded(actions).toHex()));
+    QStringList lines;
+    if (session.run(actions, &story))
+        lines << QString::fromLatin1("%1: not repeatable. Keypad and model once differed after")
+                     .arg(u(className(name)));
+    else
+        lines << QString::fromLatin1("%1: keypad and model differ after").arg(u(className(name)));
+    lines << u("    ") + story.join(u("\n    "));
+    if (session.divergence().differences.isEmpty())
+        lines << firstSeen;
+    else
+        lines << session.divergence().differences;
+    lines << u("To see it again, add to the known sequences:") << row(name, actions);
     return lines.join(u("\n"));
 }
 
+void printFirst(const QString &row, const QStringList &differences)
+{
+    std::fprintf(stderr,
+                 "Keypad and model differ:\n%s\nafter these actions, not shortened yet:\n%s\n",
+                 differences.join(u("\n")).toUtf8().constData(), qPrintable(row));
+}
+
 } // namespace
+
+QString Report::statesTold() const
+{
+    return QString::number(states.size()) + u(states.size() < mostStates ? "" : " or more");
+}
 
 bool runActions(KeypadName name, const unsigned char *bytes, std::size_t size, Report *report)
 {
     const QList<Action> actions =
         decoded(QByteArray(reinterpret_cast<const char *>(bytes), int(size)));
-    int done = 0;
+    QList<Action> done = actions;
+    QStringList differences;
     {
         Session session(name);
         const bool same = session.run(actions);
-        done = session.actionsDone();
-        report->actions += done;
-        report->states += session.states();
+        report->actions += session.actionsFelt();
+        if (report->states.size() < Report::mostStates)
+            report->states += session.states();
         if (same)
             return true;
+        done = actions.mid(0, session.actionsDone() + 1);
+        differences = session.divergence().differences;
     }
-    report->failure = told(name, shortened(name, actions.mid(0, done + 1)));
+    printFirst(row(name, done), differences);
+    report->failure = told(name, shortened(name, done), differences);
     return false;
 }
 

@@ -63,12 +63,14 @@ quint64 hashOf(const QStringList &lines)
 
 Session::Session(KeypadName name)
     : m_name(name)
+    , m_lastWords(name)
     , m_model(newModel(name, m_surroundings.world()))
     , m_machine(newMachine(name, m_surroundings.home()))
     , m_fields(m_machine->fields())
     , m_keys(m_machine->keys())
     , m_story(nullptr)
     , m_next(0)
+    , m_felt(0)
     , m_timer(0)
     , m_same(true)
 {
@@ -84,7 +86,8 @@ bool Session::run(const QList<Action> &actions, QStringList *story)
 {
     m_story = story;
     m_actions = actions;
-    m_next = 0;
+    m_next = m_felt = 0;
+    m_lastWords.begin(encoded(actions));
     while (m_same && m_next < m_actions.size()) {
         if (m_actions.at(m_next).isOperators())
             openAndGoOn();
@@ -97,13 +100,10 @@ bool Session::run(const QList<Action> &actions, QStringList *story)
 // What an operator would do is the opening where the keypad is closed.
 void Session::openAndGoOn()
 {
-    const ViewPlace view = m_surroundings.viewPlace();
-    if (!m_model->canOpen(view)) {
-        ++m_next;
-        return;
-    }
     tell(u("open"));
-    m_model->open(view, m_surroundings.targetPlace(m_model->target()));
+    m_lastWords.goOn(m_next);
+    ++m_felt;
+    m_model->open(m_surroundings.viewPlace(), m_surroundings.targetPlace(m_model->target()));
     m_timer = startTimer(0);
     const int result = m_machine->dialog()->exec();
     if (!m_same)
@@ -152,8 +152,34 @@ void Session::tell(const QString &what)
         *m_story << what;
 }
 
+// Whether the keypad, or what it looks at, is done anything to.
+bool Session::reaches(const Action &action) const
+{
+    const bool hasFixedFace = m_name == Numeric || m_name == GCode || m_name == Axis;
+    switch (action.kind) {
+    case Tap:
+        return m_keys.at(action.a % int(m_keys.size()))->isVisible();
+    case LikelyTap:
+        return m_keys.at(m_model->likelyKey(action.a))->isVisible();
+    case Press:
+        return !isLeftOut(hardKeyOf(action));
+    case SetEditMode:
+    case SetDecimalPoint:
+    case SetLimits:
+        return hasFixedFace;
+    case Close:
+    case LetPass:
+        return m_model->isOpen();
+    default:
+        return true;
+    }
+}
+
 void Session::perform(const Action &action)
 {
+    m_lastWords.goOn(m_next);
+    if (reaches(action))
+        ++m_felt;
     if (action.kind != Tap && action.kind != LikelyTap)
         tell(described(action));
     switch (action.kind) {
@@ -255,10 +281,15 @@ void Session::tap(int key)
 }
 
 // The order in which Tab goes through the character keypad is not told by any rule.
-void Session::press(const HardKey &key)
+bool Session::isLeftOut(const HardKey &key) const
 {
     const bool isTab = key.code == Qt::Key_Tab || key.code == Qt::Key_Backtab;
-    if (isTab && m_name == Character)
+    return isTab && m_name == Character;
+}
+
+void Session::press(const HardKey &key)
+{
+    if (isLeftOut(key))
         return;
     QDialog *dialog = m_machine->dialog();
     QWidget *focus = dialog->focusWidget();

@@ -3,6 +3,7 @@
 #define SESSION_H
 
 #include "Action.h"
+#include "LastWords.h"
 #include "Machine.h"
 #include "Recorder.h"
 #include "Surroundings.h"
@@ -30,6 +31,7 @@ public:
 
     const Divergence &divergence() const { return m_divergence; }
     int actionsDone() const { return m_next; }
+    int actionsFelt() const { return m_felt; } // of them, those that reached the keypad
     const QSet<quint64> &states() const { return m_states; } // by their hashes
 
 protected:
@@ -38,11 +40,13 @@ protected:
 private:
     void openAndGoOn();
     void doNext();
+    bool reaches(const Action &action) const;
     void perform(const Action &action);
     void tell(const QString &what);
     void adjust(const Action &action);
     void setObject(const Action &action);
     void tap(int key);
+    bool isLeftOut(const HardKey &key) const;
     void press(const HardKey &key);
     void pointAt(const Action &action);
     void close(int way);
@@ -50,6 +54,7 @@ private:
     Seen seen();
 
     KeypadName m_name;
+    LastWords m_lastWords;
     Surroundings m_surroundings;
     QScopedPointer<KeypadModel> m_model;
     QScopedPointer<Machine> m_machine;
@@ -57,7 +62,7 @@ private:
     Recorder m_recorder;
     QList<Action> m_actions;
     QStringList *m_story;
-    int m_next, m_timer;
+    int m_next, m_felt, m_timer;
     bool m_same;
     Divergence m_divergence;
     QSet<quint64> m_states;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CharacterModel.h"
+#include "LastWords.h"
 #include "Run.h"
 #include "support/QtDifferences.h"
 #include "support/Text.h"
@@ -14,6 +15,7 @@
 namespace {
 
 const int bytesInSequence = 1600; // 400 actions
+const qint64 millisecondsInMinute = 60000;
 
 // The platform that draws nowhere tells over and over what it cannot do.
 HMI_MESSAGE_HANDLER(printOthers, text)
@@ -23,24 +25,21 @@ HMI_MESSAGE_HANDLER(printOthers, text)
         std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-void tell(const char *prefix, const Report *reports, qint64 milliseconds)
+void tell(unsigned first, unsigned last, const Report *reports, qint64 milliseconds)
 {
-    int actions = 0, states = 0;
-    for (int i = 0; i < KeypadCount; ++i) {
+    qint64 actions = 0;
+    for (int i = 0; i < KeypadCount; ++i)
         actions += reports[i].actions;
-        states += int(reports[i].states.size());
-    }
-    std::printf("%s%d actions, %d distinct states, %d seconds, %d actions a second\n", prefix,
-                actions, states, int(milliseconds / 1000),
-                int(actions * qint64(1000) / (milliseconds + 1)));
+    std::printf("seeds %u to %u: %lld actions, %lld seconds, %lld actions a second\n", first, last,
+                actions, milliseconds / 1000, actions * 1000 / (milliseconds + 1));
     std::fflush(stdout);
 }
 
 void tellEach(const Report *reports)
 {
     for (int i = 0; i < KeypadCount; ++i)
-        std::printf("%-15s %9d actions %9d distinct states\n", className(KeypadName(i)),
-                    reports[i].actions, int(reports[i].states.size()));
+        std::printf("%-15s %9lld actions %9s distinct states\n", className(KeypadName(i)),
+                    reports[i].actions, qPrintable(reports[i].statesTold()));
 }
 
 bool goOn(KeypadName name, unsigned seed, Report *report)
@@ -53,17 +52,31 @@ bool goOn(KeypadName name, unsigned seed, Report *report)
     return false;
 }
 
+// Each seed stands for one sequence on every keypad.
+bool goOn(unsigned seed, Report *reports)
+{
+    LastWords::setSeed(seed);
+    bool same = true;
+    for (int i = 0; same && i < KeypadCount; ++i)
+        same = goOn(KeypadName(i), seed, &reports[i]);
+    return same;
+}
+
 } // namespace
 
-// Arguments: minutes and the first seed, each of which stands for one sequence on every keypad.
+// Arguments: minutes and the first seed.
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     const QStringList arguments = application.arguments();
-    const qint64 milliseconds = 60000 * arguments.value(1).toInt();
-    const unsigned first = arguments.value(2).toUInt();
-    if (milliseconds <= 0 || arguments.size() != 3)
+    bool isSeed = false;
+    const qint64 milliseconds = millisecondsInMinute * arguments.value(1).toInt();
+    const unsigned first = arguments.value(2).toUInt(&isSeed);
+    if (milliseconds <= 0 || !isSeed || arguments.size() != 3) {
+        std::fprintf(stderr, "usage: model_soak <minutes> <seed, 0 to 4294967295>\n");
         return 2;
+    }
+    LastWords::keepReady();
     QtDifferences::installMessageHandler(printOthers);
     QtDifferences::readLiteralsAsGbk();
     DictionaryFile dictionary;
@@ -75,13 +88,13 @@ int main(int argc, char *argv[])
     bool same = true;
     unsigned seed = first;
     for (; same && clock.elapsed() < milliseconds; ++seed) {
-        for (int i = 0; same && i < KeypadCount; ++i)
-            same = goOn(KeypadName(i), seed, &reports[i]);
-        if (clock.elapsed() / 60000 > told)
-            tell("  ", reports, 60000 * (told = clock.elapsed() / 60000));
+        same = goOn(seed, reports);
+        if (clock.elapsed() / millisecondsInMinute > told) {
+            told = clock.elapsed() / millisecondsInMinute;
+            tell(first, seed, reports, clock.elapsed());
+        }
     }
     tellEach(reports);
-    std::printf("seeds %u to %u: ", first, seed - 1);
-    tell("", reports, clock.elapsed());
+    tell(first, seed - 1, reports, clock.elapsed());
     return same ? 0 : 1;
 }
