@@ -53,6 +53,32 @@ QStringList Seen::lines() const
     return list;
 }
 
+void TargetModel::write(const QString &newText)
+{
+    if (whenWritten != TakeItUncounted)
+        ++timesWritten;
+    if (whenWritten != RefuseIt)
+        text = (whenWritten == PutItInCapitals ? newText.toUpper() : newText).left(maxLength);
+}
+
+QString TargetModel::seen() const
+{
+    return seenTarget(text, timesWritten, blocked);
+}
+
+QString seenKey(const QString &label, bool enabled, bool shown)
+{
+    return u(enabled ? "" : "/") + (shown ? label : u("(") + label + u(")"));
+}
+
+QString seenTarget(const QString &text, int timesWritten, bool blocked)
+{
+    return QString::fromLatin1("\"%1\" written %2 times%3")
+        .arg(text)
+        .arg(timesWritten)
+        .arg(u(blocked ? " blocked" : ""));
+}
+
 QRect rectOfView(const ViewPlace &view)
 {
     return view.viewportGeometry.translated(view.viewportOrigin);
@@ -145,8 +171,7 @@ void KeypadModel::closeWith(int result)
     else if (result == 1)
         m_happenings << u("accepted ")
                 + (m_target == noTarget ? QString() : m_world->targets.at(m_target).text);
-    else
-        m_happenings << u("finished ") + QString::number(result);
+    m_finished << u("finished ") + QString::number(result);
 }
 
 void KeypadModel::lostTheKeyboard()
@@ -254,18 +279,19 @@ Seen KeypadModel::seen()
     seen.hidden = m_line.isHidden();
     const QVector<Key> &keys = m_keys;
     for (const Key &key : keys)
-        seen.keys << (key.enabled ? key.label : QLatin1Char('/') + key.label);
+        seen.keys << seenKey(key.label, key.enabled, key.shown);
     seen.tip = m_tip + u(m_tipShown ? " shown" : " hidden");
     const QVector<TargetModel> &targets = m_world->targets;
     for (const TargetModel &target : targets)
-        seen.targets << target.text + u(target.blocked ? " blocked" : "");
+        seen.targets << target.seen();
     seen.open = m_open;
     seen.result = m_result;
     seen.focus = m_open ? m_focus : -1;
     seen.place = m_place;
     seen.resizable = m_resizable;
-    seen.happenings = m_happenings;
+    seen.happenings = m_happenings + m_finished;
     m_happenings.clear();
+    m_finished.clear();
     return seen;
 }
 
@@ -278,8 +304,7 @@ void KeypadModel::confirm()
 {
     if (m_target == noTarget)
         return;
-    TargetModel &target = m_world->targets[m_target];
-    target.text = target.written(m_line.text());
+    m_world->targets[m_target].write(m_line.text());
     closeWith(1);
 }
 

@@ -15,10 +15,10 @@ struct Seen
     int cursor;
     int maxLength;
     bool hidden;         // as a password
-    QStringList keys;    // labels, with a stroke in front where the key is disabled
+    QStringList keys;    // labels, in brackets where hidden, with a stroke in front where disabled
     QString tip;         // of the line for limits, and whether it is shown
     QStringList parts;   // what only this kind of keypad has
-    QStringList targets; // the text of each, and whether its signals are blocked
+    QStringList targets; // of each, text, how often it was written, and whether signals are blocked
     bool open;
     int result;
     int focus;   // the place of what has the keyboard, or -1 while the keypad is closed
@@ -29,6 +29,9 @@ struct Seen
     QStringList lines() const;
 };
 
+// What a target makes of a text that it is given.
+enum WhenWritten { TakeIt, RefuseIt, PutItInCapitals, TakeItUncounted };
+
 struct TargetModel
 {
     QString text;
@@ -36,8 +39,16 @@ struct TargetModel
     bool blocked; // its signals
     bool isWidget;
     bool isDateTimeField;
-    QString written(const QString &newText) const { return newText.left(maxLength); }
+    WhenWritten whenWritten;
+    int timesWritten;
+
+    void write(const QString &newText);
+    QString seen() const;
 };
+
+// What can be seen of a key and of a target, of the model's as of the keypad's.
+QString seenKey(const QString &label, bool enabled, bool shown);
+QString seenTarget(const QString &text, int timesWritten, bool blocked);
 
 // Where the registered view lies, and a target, in global coordinates.
 struct ViewPlace
@@ -142,7 +153,7 @@ private:
     int m_focus;
     QRect m_place;
     bool m_resizable;
-    QStringList m_happenings;
+    QStringList m_happenings, m_finished;
 };
 
 // Where a keypad lies that covers the view.

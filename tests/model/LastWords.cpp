@@ -10,6 +10,13 @@
 
 extern "C" void __sanitizer_set_death_callback(void (*callback)()) __attribute__((weak));
 
+// GCC's UndefinedBehaviorSanitizer does not call back: it is to end the program by a signal.
+extern "C" const char *__ubsan_default_options();
+extern "C" const char *__ubsan_default_options()
+{
+    return "abort_on_error=1";
+}
+
 namespace {
 
 // A signal's handler may neither allocate nor format: all is kept as it is to be printed. Of more

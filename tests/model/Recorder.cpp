@@ -21,8 +21,9 @@ void Recorder::attachTo(QDialog *keypad)
 
 QStringList Recorder::takeHappenings()
 {
-    const QStringList list = m_happenings;
+    const QStringList list = m_happenings + m_finished;
     m_happenings.clear();
+    m_finished.clear();
     return list;
 }
 
@@ -37,11 +38,10 @@ void Recorder::rejected()
     note(u("rejected"));
 }
 
-// Where the result is one of the two above, Qt's versions disagree which signal comes first.
+// Whether this comes before the two above, Qt's versions disagree; so it is told after all others.
 void Recorder::finished(int result)
 {
-    if (result != QDialog::Accepted && result != QDialog::Rejected)
-        note(u("finished ") + QString::number(result));
+    m_finished << told(u("finished ") + QString::number(result));
 }
 
 void Recorder::keyPressed(int key)
@@ -51,5 +51,10 @@ void Recorder::keyPressed(int key)
 
 void Recorder::note(const QString &happening)
 {
-    m_happenings << happening + u(m_keypad->isVisible() ? " while it is open" : "");
+    m_happenings << told(happening);
+}
+
+QString Recorder::told(const QString &happening) const
+{
+    return happening + u(m_keypad->isVisible() ? " while it is open" : "");
 }

@@ -25,10 +25,11 @@ private Q_SLOTS:
 
 private:
     void note(const QString &happening);
+    QString told(const QString &happening) const;
 
     QDialog *m_keypad;
     const QObject *m_target; // only while it lives
-    QStringList m_happenings;
+    QStringList m_happenings, m_finished;
 };
 
 #endif

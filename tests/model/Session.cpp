@@ -252,7 +252,7 @@ void Session::adjust(const Action &action)
     }
 }
 
-// Now and then the application has blocked the target's signals.
+// Now and then the application has blocked the target's signals, or it does not take every text.
 void Session::setObject(const Action &action)
 {
     const int index = targetOf(action);
@@ -262,6 +262,8 @@ void Session::setObject(const Action &action)
     }
     if (action.b % 8 == 0)
         m_surroundings.block(index);
+    if (action.c >= 224)
+        m_surroundings.setWhenWritten(index, WhenWritten(action.c % 3));
     m_recorder.setTarget(m_surroundings.target(index));
     m_machine->setObject(m_surroundings.target(index));
     m_model->setObject(index);
@@ -363,7 +365,7 @@ Seen Session::seen()
     const QList<QWidget *> keys = m_keys;
     for (const QWidget *key : keys) {
         const QString label = key->property("text").toString();
-        seen.keys << (key->isEnabled() ? label : QLatin1Char('/') + label);
+        seen.keys << seenKey(label, key->isEnabled(), key->isVisibleTo(dialog));
     }
     seen.tip = m_machine->tip() + u(m_machine->isTipShown() ? " shown" : " hidden");
     seen.parts = m_machine->parts();

@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QIntValidator>
-#include <QLabel>
 
 namespace {
 
@@ -104,7 +103,22 @@ void show(QWidget *widget, bool visible)
         widget->setVisible(visible);
 }
 
+// The object that has no such property has one added by the first writing, which nobody counts.
+int timesWritten(const QObject *target)
+{
+    const Written *const field = dynamic_cast<const Written *>(target);
+    return field ? field->times : 0;
+}
+
 } // namespace
+
+QString Written::taken(const QString &text, const QString &before)
+{
+    ++times;
+    if (whenWritten == RefuseIt)
+        return before;
+    return whenWritten == TakeIt ? text : text.toUpper();
+}
 
 Surroundings::Surroundings()
 {
@@ -154,6 +168,15 @@ void Surroundings::block(int target)
     m_world.targets[target].blocked = true;
 }
 
+void Surroundings::setWhenWritten(int target, WhenWritten what)
+{
+    Written *const field = dynamic_cast<Written *>(m_targets[target]);
+    if (!field)
+        return;
+    field->whenWritten = what;
+    m_world.targets[target].whenWritten = what;
+}
+
 void Surroundings::renewTarget(int index)
 {
     delete m_targets[index];
@@ -193,7 +216,8 @@ QStringList Surroundings::seenTargets() const
 {
     QStringList list;
     for (const QObject *target : m_targets)
-        list << target->property("text").toString() + u(target->signalsBlocked() ? " blocked" : "");
+        list << seenTarget(target->property("text").toString(), timesWritten(target),
+                           target->signalsBlocked());
     return list;
 }
 
@@ -211,10 +235,16 @@ const QValidator *Surroundings::validator(int index)
 
 QObject *Surroundings::newTarget(int index)
 {
-    m_world.targets[index] = { QString(), 32767, false, index != 2, index == 3 || index == 4 };
+    m_world.targets[index] = { QString(),
+                               32767,
+                               false,
+                               index != 2,
+                               index == 3 || index == 4,
+                               index == 2 ? TakeItUncounted : TakeIt,
+                               0 };
     switch (index) {
     case 1: {
-        QLabel *label = new QLabel;
+        QLabel *label = new WrittenLabel;
         label->setGeometry(targetPlaces[0]);
         return label;
     }
@@ -225,13 +255,13 @@ QObject *Surroundings::newTarget(int index)
     case 4:
         return inView(new DerivedField);
     case 5: {
-        QLineEdit *field = inView(new QLineEdit);
+        QLineEdit *field = inView(new WrittenField);
         field->setMaxLength(shortTarget);
         m_world.targets[index].maxLength = shortTarget;
         return field;
     }
     default:
-        return inView(new QLineEdit);
+        return inView(new WrittenField);
     }
 }
 

@@ -6,12 +6,50 @@
 #include "KeypadModel.h"
 
 #include <QGraphicsView>
+#include <QLabel>
 #include <QLineEdit>
 
 class QValidator;
 
+// What is written into, and how often.
+class Written
+{
+public:
+    Written()
+        : whenWritten(TakeIt)
+        , times(0)
+    {
+    }
+    virtual ~Written() { }
+
+    WhenWritten whenWritten;
+    int times;
+
+protected:
+    // What becomes of \a text where \a before stands.
+    QString taken(const QString &text, const QString &before);
+};
+
+class WrittenField : public QLineEdit, public Written
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE write)
+
+public:
+    void write(const QString &text) { setText(taken(text, this->text())); }
+};
+
+class WrittenLabel : public QLabel, public Written
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE write)
+
+public:
+    void write(const QString &text) { setText(taken(text, this->text())); }
+};
+
 // An application's field for dates, for whose class the character keypad has a rule of its own.
-class DateTimeField : public QLineEdit
+class DateTimeField : public WrittenField
 {
     Q_OBJECT
 };
@@ -38,6 +76,7 @@ public:
     void registerView(int index); // any but a view's index: none
     void changeView(int index, int place, int look);
     void block(int target);
+    void setWhenWritten(int target, WhenWritten what);
     void renewTarget(int index);
     void moveTarget(int index, int place, int parent);
 

@@ -66,8 +66,8 @@ const struct
 // Fewer distinct states would prove little; some 8,400 to 11,200 are reached.
 const int fewestStates = 7000;
 
-// So would actions that a keypad never feels, such as a key that is not shown. Of 20,000 some 18,100
-// to 19,990 reach it.
+// So would actions that a keypad never feels, such as a key that is not shown. Of 20,000 some
+// 18,100 to 19,990 reach it.
 const int fewestActions = 17500;
 
 // The platform plugin that draws nowhere tells what it cannot do.
