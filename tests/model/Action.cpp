@@ -71,14 +71,22 @@ const char *const texts[] = {
     "2024-05-17 24:00:00", "abcdefgh", "2024/05/17", "31-12-2024", "2024-05-17 8:9:10"
 };
 
+const char *const otherTyped[] = { "ä", "ß", "Ж", "中", "٣", "　", "好", "é" };
+
+const char *const otherTexts[] = {
+    "one\ntwo", "\t1\x01 2", "全角　字", "ЖЗ äöü ٣.", "\r\n", "3,5", "99.55", "ABC-12"
+};
+const int longTextLength = 40000;
+
 const char *const targetNames[] = {
     "field", "label", "object", "DateTimeField", "derived DateTimeField", "short field", "null"
 };
 
 const char *const validatorNames[] = {
     "none", "0 to 100", "-50 to 999", "like a number", "none", "nothing is right",
-    "three characters", "in capitals"
+    "three characters", "in capitals", "decimals", "a pattern"
 };
+const int usualValidators = 8;
 
 const int maxLengths[] = {
     32767, 10, 8, 19, 0, 1, 2, 3, 5, 6, 12, 10, 8, 19, -1, 100000
@@ -99,7 +107,45 @@ Value oneOf(const Value (&values)[count], int choice)
 
 QString quoted(const QString &text)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    if (text.size() >= longTextLength)
+        return QString::fromLatin1("%1 times %2").arg(text.size()).arg(text.at(0));
+    QString told;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        if (character < QLatin1Char(' '))
+            told += QString::fromLatin1("<%1>").arg(int(character.unicode()));
+        else
+            told += character;
+    }
+    return QLatin1Char('"') + told + QLatin1Char('"');
+}
+
+// The last of the three choices makes a key or a text an unusual one.
+int modifierOfUnusual(int choice)
+{
+    if (choice >= 224 && choice < 228)
+        return Qt::AltModifier;
+    if (choice >= 228 && choice < 232)
+        return Qt::MetaModifier;
+    return choice >= 232 && choice < 236 ? Qt::KeypadModifier : Qt::NoModifier;
+}
+
+HardKey typedKeyOf(const Action &action)
+{
+    QString text(QLatin1Char(oneOf(typed, action.a % int(sizeof(typed) - 1))));
+    if (action.c >= 192 && action.c < 224)
+        text = u(oneOf(otherTyped, action.a));
+    int held = modifierOfUnusual(action.c);
+    if (action.c >= 236 && action.c < 240)
+        held = Qt::ShiftModifier;
+    return { text.at(0).toUpper().unicode(), text, held };
+}
+
+QString mannerNameOf(const Action &action)
+{
+    static const char *const names[] = { "", " and hold it", " and keep it", " up only",
+                                         " by the input method" };
+    return u(names[keyMannerOf(action)]);
 }
 
 Action decodedOne(const QByteArray &bytes)
@@ -142,14 +188,15 @@ QByteArray encoded(const QList<Action> &actions)
     return bytes;
 }
 
-// Shift+Delete would cut to the clipboard, which is none of a keypad's.
+// Shift+Delete would cut to the clipboard, which is none of a keypad's, and Alt+Backspace undo.
+// Qt's versions disagree what Escape on the number block is, where no keyboard has one.
 HardKey hardKeyOf(const Action &action)
 {
-    if (action.kind == Type) {
-        const QChar character = QLatin1Char(oneOf(typed, action.a % int(sizeof(typed) - 1)));
-        return { character.toUpper().unicode(), QString(character), 0 };
-    }
+    if (action.kind == Type)
+        return typedKeyOf(action);
     HardKey key = { oneOf(codes, action.a), QString(), oneOf(modifiers, action.b) };
+    if (key.code != Qt::Key_Backspace && key.code != Qt::Key_Escape)
+        key.modifiers |= modifierOfUnusual(action.c);
     if (key.code == Qt::Key_A)
         key.modifiers = Qt::ControlModifier;
     else if (key.code == Qt::Key_Delete)
@@ -157,6 +204,45 @@ HardKey hardKeyOf(const Action &action)
     else if (key.code == Qt::Key_Tab || key.code == Qt::Key_Backtab)
         key.modifiers = key.code == Qt::Key_Tab ? Qt::NoModifier : Qt::ShiftModifier;
     return key;
+}
+
+// Up and Down that are held make fields for numbers count by a timer.
+KeyManner keyMannerOf(const Action &action)
+{
+    if (action.kind == Type)
+        return action.c >= 192 && action.c < 208 ? ByInputMethod : PressedAndReleased;
+    if (action.c >= 250)
+        return OnlyReleased;
+    if (action.c >= 244)
+        return OnlyPressed;
+    const int code = oneOf(codes, action.a);
+    const bool counts = code == Qt::Key_Up || code == Qt::Key_Down;
+    return action.c >= 236 && !counts ? Repeated : PressedAndReleased;
+}
+
+bool isBeside(const Action &action)
+{
+    return action.c >= 240;
+}
+
+bool isDoubleClick(const Action &action)
+{
+    return action.a >= 240;
+}
+
+bool isByMouse(const Action &action)
+{
+    return action.c >= 224;
+}
+
+bool isDestroyed(const Action &action)
+{
+    return action.b >= 240;
+}
+
+bool isChoosy(const Action &action)
+{
+    return action.c >= 224;
 }
 
 int targetOf(const Action &action)
@@ -167,7 +253,7 @@ int targetOf(const Action &action)
 
 int validatorOf(const Action &action)
 {
-    return action.a % int(sizeof(validatorNames) / sizeof(validatorNames[0]));
+    return action.b >= 208 ? usualValidators + action.b % 2 : action.a % usualValidators;
 }
 
 bool isOn(const Action &action)
@@ -177,7 +263,9 @@ bool isOn(const Action &action)
 
 QString textOf(const Action &action)
 {
-    return u(oneOf(texts, action.a));
+    if (action.b == 255)
+        return QString(longTextLength, QLatin1Char('7'));
+    return u(action.b >= 240 ? oneOf(otherTexts, action.a) : oneOf(texts, action.a));
 }
 
 int maxLengthOf(const Action &action)
@@ -206,10 +294,20 @@ QString described(const Action &action)
     const HardKey key = hardKeyOf(action);
     switch (action.kind) {
     case Press:
-        return name + QKeySequence(key.code | key.modifiers).toString();
+        return name + QKeySequence(key.code | key.modifiers).toString() + mannerNameOf(action);
     case Type:
-        return name + quoted(key.text);
+        return name + QKeySequence(key.modifiers).toString() + quoted(key.text)
+            + mannerNameOf(action);
+    case PointAt:
+    case TouchField:
+        return name + QString::fromLatin1("%1 %2 %3").arg(action.a).arg(action.b).arg(action.c)
+            + u(action.kind == PointAt  ? isDoubleClick(action) ? " twice" : ""
+                    : isByMouse(action) ? " by the mouse"
+                                        : "");
     case SetObject:
+        return name + u(targetNames[targetOf(action)])
+            + (isChoosy(action) ? QString::fromLatin1(", writing %1").arg(action.c % 3)
+                                : QString());
     case DestroyTarget:
     case MoveTarget:
         return name + u(targetNames[targetOf(action)]);
@@ -218,7 +316,8 @@ QString described(const Action &action)
     case SetMaxLength:
         return name + QString::number(maxLengthOf(action));
     case SetValidator:
-        return name + u(validatorNames[validatorOf(action)]);
+        return name + u(validatorNames[validatorOf(action)])
+            + u(isDestroyed(action) ? " and destroy it" : "");
     case SetEditMode:
         return name + QString::number(editModeOf(action));
     case SetLimits:

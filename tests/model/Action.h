@@ -35,6 +35,9 @@ enum ActionKind {
     LetPass // time
 };
 
+// How a hard key comes.
+enum KeyManner { PressedAndReleased, Repeated, OnlyPressed, OnlyReleased, ByInputMethod };
+
 // An action is four bytes, of which any are one: its kind and three choices.
 struct Action
 {
@@ -57,6 +60,12 @@ int targetOf(const Action &action);
 int validatorOf(const Action &action);
 bool isOn(const Action &action);
 HardKey hardKeyOf(const Action &action);
+KeyManner keyMannerOf(const Action &action);
+bool isBeside(const Action &action);      // a key is pressed, and the finger leaves beside it
+bool isDoubleClick(const Action &action); // in the edit line
+bool isByMouse(const Action &action);     // a field is gone to
+bool isDestroyed(const Action &action);   // a validator, while it is set
+bool isChoosy(const Action &action);      // a target, about what is written into it
 QString textOf(const Action &action);
 int maxLengthOf(const Action &action);
 int editModeOf(const Action &action);

@@ -131,6 +131,14 @@ void DateTimeModel::lostTheKeyboard()
         m_fields[focus()]->leave(false);
 }
 
+void DateTimeModel::pointIntoField(int field, int position)
+{
+    if (!isFieldEnabled(field))
+        return;
+    touchField(field);
+    m_fields[field]->pointAt(position);
+}
+
 void DateTimeModel::pressElsewhere(const HardKey &key)
 {
     if (key.code == Qt::Key_Escape && key.modifiers == Qt::NoModifier)

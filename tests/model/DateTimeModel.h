@@ -17,6 +17,8 @@ public:
     void open(const ViewPlace &view, const TargetPlace &target) override;
     void lostTheKeyboard() override;
     void pointAt(int, bool) override { } // the display is not to be edited
+    void pointTwiceAt(int) override { }
+    void pointIntoField(int field, int position) override;
     Seen seen() override;
     int likelyKey(int choice) const override;
 
@@ -25,6 +27,7 @@ protected:
     int fieldCount() const override { return FieldCount; }
     bool isFieldEnabled(int field) const override { return m_fields.at(field)->isEnabled(); }
     bool pressInField(const HardKey &key) override { return m_fields[focus()]->press(key); }
+    void commitInField(const QString &text) override { m_fields[focus()]->commit(text); }
     void fieldGotKeyboard() override { m_fields[focus()]->selectAll(); }
     void fieldLostKeyboard() override { m_fields[focus()]->leave(true); }
     void pressElsewhere(const HardKey &key) override;

@@ -200,6 +200,17 @@ void KeypadModel::press(const HardKey &key)
         pressElsewhere(key);
 }
 
+void KeypadModel::commit(const QString &text)
+{
+    if (m_focus < fieldCount())
+        commitInField(text);
+}
+
+void KeypadModel::commitInField(const QString &text)
+{
+    m_line.insert(text);
+}
+
 bool KeypadModel::pressInField(const HardKey &key)
 {
     return m_line.press(key);
@@ -267,6 +278,17 @@ void KeypadModel::pointAt(int position, bool selecting)
 {
     m_focus = 0;
     m_line.moveCursor(position, selecting);
+}
+
+void KeypadModel::pointTwiceAt(int position)
+{
+    m_focus = 0;
+    m_line.selectWordAt(position);
+}
+
+void KeypadModel::pointIntoField(int, int position)
+{
+    pointAt(position, false);
 }
 
 Seen KeypadModel::seen()

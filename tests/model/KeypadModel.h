@@ -102,6 +102,9 @@ public:
     void press(const HardKey &key);
     void touchField(int field);
     virtual void pointAt(int position, bool selecting); // in the edit line
+    virtual void pointTwiceAt(int position);
+    virtual void pointIntoField(int field, int position);
+    void commit(const QString &text); // by an input method
 
     bool isOpen() const { return m_open; }
     int target() const { return m_target; }
@@ -125,6 +128,7 @@ protected:
     virtual int fieldCount() const { return 1; }
     virtual bool isFieldEnabled(int) const { return true; }
     virtual bool pressInField(const HardKey &key); // false: the key is none of the field's
+    virtual void commitInField(const QString &text);
     virtual void fieldGotKeyboard();
     virtual void fieldLostKeyboard();
     virtual void pressElsewhere(const HardKey &key);

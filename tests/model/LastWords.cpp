@@ -60,7 +60,7 @@ void tell()
     print(name);
     print("\", \"");
     print(digits, std::size_t(done));
-    print("\" },\n");
+    print("\",\n      \"\" },\n");
 }
 
 // The signal comes once more as soon as this returns, and means what it meant before.

@@ -10,6 +10,13 @@ QString firstOf(const QString &text, int count)
     return count < 0 ? text : text.left(count);
 }
 
+// Control characters are shown as blanks.
+bool isBlank(QChar character)
+{
+    return character <= QLatin1Char(' ') || character == QChar(0xa0)
+        || character == QChar(QChar::LineSeparator);
+}
+
 bool separatesWords(QChar character)
 {
     return QString::fromLatin1(".,?!@#$:;-<>[](){}=/+%&^*'\"`~|\\").contains(character);
@@ -111,6 +118,16 @@ void LineModel::insert(const QString &text)
         checkAgainst(before, !fitting.isEmpty());
 }
 
+void LineModel::selectWordAt(int position)
+{
+    const int start = wordBefore(qMin(position + 1, int(m_text.size())));
+    int end = wordAfter(start);
+    while (end > position && m_text.at(end - 1).isSpace())
+        --end;
+    moveCursor(start, false);
+    moveCursor(end, true);
+}
+
 void LineModel::backspace()
 {
     if (!hasSelection() && m_cursor == 0)
@@ -152,9 +169,10 @@ void LineModel::toggleSign()
 bool LineModel::press(const HardKey &key)
 {
     const bool shift = (key.modifiers & Qt::ShiftModifier) != 0;
+    const bool other = (key.modifiers & (Qt::AltModifier | Qt::MetaModifier)) != 0;
     if (key.modifiers & Qt::ControlModifier)
-        return pressWithControl(key, shift);
-    switch (key.code) {
+        return !other && pressWithControl(key, shift);
+    switch (other ? 0 : key.code) {
     case Qt::Key_Left:
         moveCursor(qMax(0, m_cursor - 1), shift);
         return true;
@@ -282,14 +300,14 @@ int LineModel::wordBefore(int position) const
 {
     if (m_hidden)
         return 0;
-    while (position > 0 && m_text.at(position - 1).isSpace())
+    while (position > 0 && isBlank(m_text.at(position - 1)))
         --position;
     if (position > 0 && separatesWords(m_text.at(position - 1))) {
         while (position > 0 && separatesWords(m_text.at(position - 1)))
             --position;
         return position;
     }
-    while (position > 0 && !m_text.at(position - 1).isSpace()
+    while (position > 0 && !isBlank(m_text.at(position - 1))
            && !separatesWords(m_text.at(position - 1)))
         --position;
     return position;
@@ -304,11 +322,11 @@ int LineModel::wordAfter(int position) const
         while (position < end && separatesWords(m_text.at(position)))
             ++position;
     } else {
-        while (position < end && !m_text.at(position).isSpace()
+        while (position < end && !isBlank(m_text.at(position))
                && !separatesWords(m_text.at(position)))
             ++position;
     }
-    while (position < end && m_text.at(position).isSpace())
+    while (position < end && isBlank(m_text.at(position)))
         ++position;
     return position;
 }

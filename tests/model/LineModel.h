@@ -33,6 +33,7 @@ public:
 
     // What keys do.
     void insert(const QString &text);
+    void selectWordAt(int position);
     void backspace();
     void erase(); // forward
     void toggleSign();

@@ -113,6 +113,14 @@ bool NumberFieldModel::press(const HardKey &key)
     return taken;
 }
 
+void NumberFieldModel::commit(const QString &text)
+{
+    const QString before = m_line.text();
+    m_line.insert(text);
+    if (m_line.text() != before)
+        textChanged();
+}
+
 void NumberFieldModel::selectAll()
 {
     const int size = int(m_line.text().size());
@@ -198,11 +206,13 @@ void NumberFieldModel::pressStep(const HardKey &key, int count)
 // Shift selects from the cursor on, whatever was selected before.
 bool NumberFieldModel::pressEnd(const HardKey &key)
 {
-    if (key.modifiers == Qt::ControlModifier)
+    const int others = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const bool shift = (key.modifiers & Qt::ShiftModifier) != 0;
+    if (!shift && (key.modifiers & others))
         return false;
     const bool home = key.code == Qt::Key_Home;
     const int end = home ? 0 : int(m_line.text().size());
-    if (!(key.modifiers & Qt::ShiftModifier))
+    if (!shift)
         m_line.setCursor(end);
     else if (m_line.cursor() == end)
         return false;

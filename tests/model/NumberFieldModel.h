@@ -26,8 +26,10 @@ public:
     void setEnabled(bool enabled) { m_enabled = enabled; }
     void setMarked(bool marked) { m_marked = marked; }
     void step(int count);
-    bool press(const HardKey &key); // false: the key is none of the field's
-    void selectAll();               // with the cursor in front
+    bool press(const HardKey &key);   // false: the key is none of the field's
+    void commit(const QString &text); // by an input method
+    void pointAt(int position) { m_line.setCursor(position); }
+    void selectAll(); // with the cursor in front
     void deselect() { m_line.setCursor(m_line.cursor()); }
     void leave(bool toOtherField);
 

@@ -39,8 +39,11 @@ QList<Action> shortened(KeypadName name, QList<Action> actions)
 
 QString row(KeypadName name, const QList<Action> &actions)
 {
-    return QString::fromLatin1("    { \"%1\", \"%2\" },")
-        .arg(u(className(name)), QString::fromLatin1(encoded(actions).toHex()));
+    const QByteArray bytes = encoded(actions);
+    QString story = storyOf(name, bytes);
+    story.replace(QLatin1Char('\\'), u("\\\\")).replace(QLatin1Char('"'), u("\\\""));
+    return QString::fromLatin1("    { \"%1\", \"%2\",\n      \"%3\" },")
+        .arg(u(className(name)), QString::fromLatin1(bytes.toHex()), story);
 }
 
 QString told(KeypadName name, const QList<Action> &actions, const QStringList &firstSeen)
@@ -66,7 +69,7 @@ void printFirst(const QString &row, const QStringList &differences)
 {
     std::fprintf(stderr,
                  "Keypad and model differ:\n%s\nafter these actions, not shortened yet:\n%s\n",
-                 differences.join(u("\n")).toUtf8().constData(), qPrintable(row));
+                 differences.join(u("\n")).toUtf8().constData(), row.toUtf8().constData());
 }
 
 } // namespace
@@ -96,6 +99,13 @@ bool runActions(KeypadName name, const unsigned char *bytes, std::size_t size, R
     printFirst(row(name, done), differences);
     report->failure = told(name, shortened(name, done), differences);
     return false;
+}
+
+QString storyOf(KeypadName name, const QByteArray &actions)
+{
+    QStringList story;
+    Session(name).run(decoded(actions), &story);
+    return story.join(u("; "));
 }
 
 QByteArray randomBytes(unsigned seed, int size)

@@ -28,6 +28,9 @@ struct Report
 // is printed as it is.
 bool runActions(KeypadName name, const unsigned char *bytes, std::size_t size, Report *report);
 
+// What is done, in words, as it stands beside the known sequences.
+QString storyOf(KeypadName name, const QByteArray &actions);
+
 // Bytes that a seed stands for.
 QByteArray randomBytes(unsigned seed, int size);
 

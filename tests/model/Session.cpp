@@ -6,9 +6,12 @@
 
 #include <HMIDevice/KeyBoardLineEdit.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTimerEvent>
 
@@ -22,6 +25,14 @@ void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &pos, int modifi
                       released ? Qt::NoButton : Qt::LeftButton,
                       Qt::KeyboardModifiers(QFlag(modifiers)));
     QSpontaneKeyEvent::setSpontaneous(&event); // or it would not take the keyboard along
+    qApp->notify(widget, &event);
+}
+
+void sendKey(QWidget *widget, QEvent::Type type, const HardKey &key, bool repeated)
+{
+    QKeyEvent event(type, key.code, Qt::KeyboardModifiers(QFlag(key.modifiers)), key.text,
+                    repeated);
+    QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(widget, &event);
 }
 
@@ -184,17 +195,16 @@ void Session::perform(const Action &action)
         tell(described(action));
     switch (action.kind) {
     case Tap:
-        return tap(action.a % int(m_keys.size()));
+        return tap(action.a % int(m_keys.size()), isBeside(action));
     case LikelyTap:
-        return tap(m_model->likelyKey(action.a));
+        return tap(m_model->likelyKey(action.a), isBeside(action));
     case Press:
     case Type:
-        return press(hardKeyOf(action));
+        return press(hardKeyOf(action), keyMannerOf(action));
     case PointAt:
         return pointAt(action);
     case TouchField:
-        m_fields.at(action.a % int(m_fields.size()))->setFocus(Qt::TabFocusReason);
-        return m_model->touchField(action.a);
+        return touchField(action);
     case Close:
         return close(action.a);
     case LetPass:
@@ -225,8 +235,7 @@ void Session::adjust(const Action &action)
         m_machine->setMaxLength(maxLengthOf(action));
         return m_model->setMaxLength(maxLengthOf(action));
     case SetValidator:
-        m_machine->setValidator(Surroundings::validator(validatorOf(action)));
-        return m_model->setValidator(Surroundings::validator(validatorOf(action)));
+        return setValidator(action);
     case SetPasswordEcho:
         m_machine->setPasswordEchoMode(isOn(action));
         return m_model->setPasswordEchoMode(isOn(action));
@@ -262,24 +271,59 @@ void Session::setObject(const Action &action)
     }
     if (action.b % 8 == 0)
         m_surroundings.block(index);
-    if (action.c >= 224)
+    if (isChoosy(action))
         m_surroundings.setWhenWritten(index, WhenWritten(action.c % 3));
     m_recorder.setTarget(m_surroundings.target(index));
     m_machine->setObject(m_surroundings.target(index));
     m_model->setObject(index);
 }
 
-// A disabled key is tapped too. One that is not shown cannot be.
-void Session::tap(int key)
+// One that is destroyed while it is set is none any more.
+void Session::setValidator(const Action &action)
+{
+    const QValidator *validator = Surroundings::validator(validatorOf(action));
+    if (isDestroyed(action)) {
+        const QScopedPointer<QValidator> mortal(Surroundings::newValidator());
+        m_machine->setValidator(mortal.data());
+        validator = nullptr;
+    } else {
+        m_machine->setValidator(validator);
+    }
+    m_model->setValidator(validator);
+}
+
+void Session::touchField(const Action &action)
+{
+    const int index = action.a % int(m_fields.size());
+    QWidget *field = m_fields.at(index);
+    if (!isByMouse(action)) {
+        field->setFocus(Qt::TabFocusReason);
+        return m_model->touchField(index);
+    }
+    QLineEdit *line = qobject_cast<QLineEdit *>(field);
+    if (!line)
+        line = field->findChild<QLineEdit *>();
+    const QPoint place(line->width() * action.b / 256, line->height() / 2);
+    const int position = line->cursorPositionAt(place);
+    sendMouse(line, QEvent::MouseButtonPress, place, Qt::NoModifier);
+    sendMouse(line, QEvent::MouseButtonRelease, place, Qt::NoModifier);
+    m_model->pointIntoField(index, position);
+}
+
+// A disabled key is tapped too. One that is not shown cannot be. A finger that leaves a key before
+// it is lifted means none, but for candidates, which are no buttons.
+void Session::tap(int key, bool beside)
 {
     QWidget *widget = m_keys.at(key);
-    tell(u("tap \"") + widget->property("text").toString() + u("\""));
+    tell(u(beside ? "tap and leave \"" : "tap \"") + widget->property("text").toString() + u("\""));
     if (widget->isVisible()) {
         const QPoint place = widget->rect().center();
         sendMouse(widget, QEvent::MouseButtonPress, place, Qt::NoModifier);
-        sendMouse(widget, QEvent::MouseButtonRelease, place, Qt::NoModifier);
+        sendMouse(widget, QEvent::MouseButtonRelease, beside ? QPoint(-3, -3) : place,
+                  Qt::NoModifier);
     }
-    m_model->tap(key);
+    if (!beside || !qobject_cast<QAbstractButton *>(widget))
+        m_model->tap(key);
 }
 
 // The order in which Tab goes through the character keypad is not told by any rule.
@@ -289,15 +333,47 @@ bool Session::isLeftOut(const HardKey &key) const
     return isTab && m_name == Character;
 }
 
-void Session::press(const HardKey &key)
+void Session::press(const HardKey &key, KeyManner manner)
 {
     if (isLeftOut(key))
         return;
+    if (manner == ByInputMethod)
+        return commit(key.text);
+    if (manner == Repeated)
+        return pressRepeatedly(key);
+    if (manner == PressedAndReleased)
+        QTest::sendKeyEvent(QTest::Click, focus(), Qt::Key(key.code), key.text,
+                            Qt::KeyboardModifiers(QFlag(key.modifiers)));
+    else
+        sendKey(focus(), manner == OnlyPressed ? QEvent::KeyPress : QEvent::KeyRelease, key, false);
+    if (manner != OnlyReleased)
+        m_model->press(key);
+}
+
+// Each time, a key that is held reaches what has the keyboard then.
+void Session::pressRepeatedly(const HardKey &key)
+{
+    for (int times = 0; times < 3 && m_machine->dialog()->isVisible(); ++times) {
+        sendKey(focus(), QEvent::KeyPress, key, times > 0);
+        m_model->press(key);
+    }
+    if (m_machine->dialog()->isVisible())
+        sendKey(focus(), QEvent::KeyRelease, key, false);
+}
+
+void Session::commit(const QString &text)
+{
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QApplication::sendEvent(focus(), &event);
+    m_model->commit(text);
+}
+
+QWidget *Session::focus()
+{
     QDialog *dialog = m_machine->dialog();
     QWidget *focus = dialog->focusWidget();
-    QTest::sendKeyEvent(QTest::Click, focus ? focus : dialog, Qt::Key(key.code), key.text,
-                        Qt::KeyboardModifiers(QFlag(key.modifiers)));
-    m_model->press(key);
+    return focus ? focus : dialog;
 }
 
 // A finger on the edit line: touches it, or goes along it, or Shift is held.
@@ -307,6 +383,8 @@ void Session::pointAt(const Action &action)
     const int y = line->height() / 2;
     const QPoint from(line->width() * action.b / 256, y);
     const QPoint to(line->width() * action.c / 256, y);
+    if (isDoubleClick(action))
+        return pointTwiceAt(from);
     const int held = action.a % 4 == 1 ? Qt::ShiftModifier : Qt::NoModifier;
     const int first = line->cursorPositionAt(from);
     sendMouse(line, QEvent::MouseButtonPress, from, held);
@@ -317,6 +395,24 @@ void Session::pointAt(const Action &action)
         m_model->pointAt(last, true);
     }
     sendMouse(line, QEvent::MouseButtonRelease, to, held);
+}
+
+// Qt waits for a third click, which would select all; not for long here.
+void Session::pointTwiceAt(const QPoint &place)
+{
+    KeyBoardLineEdit *line = m_machine->line();
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(0);
+    const int first = line->cursorPositionAt(place);
+    sendMouse(line, QEvent::MouseButtonPress, place, Qt::NoModifier);
+    sendMouse(line, QEvent::MouseButtonRelease, place, Qt::NoModifier);
+    m_model->pointAt(first, false);
+    const int second = line->cursorPositionAt(place);
+    sendMouse(line, QEvent::MouseButtonDblClick, place, Qt::NoModifier);
+    sendMouse(line, QEvent::MouseButtonRelease, place, Qt::NoModifier);
+    m_model->pointTwiceAt(second);
+    QApplication::processEvents();
+    QApplication::setDoubleClickInterval(interval);
 }
 
 void Session::close(int way)

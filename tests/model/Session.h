@@ -45,10 +45,16 @@ private:
     void tell(const QString &what);
     void adjust(const Action &action);
     void setObject(const Action &action);
-    void tap(int key);
+    void setValidator(const Action &action);
+    void tap(int key, bool beside);
+    void touchField(const Action &action);
     bool isLeftOut(const HardKey &key) const;
-    void press(const HardKey &key);
+    void press(const HardKey &key, KeyManner manner);
+    void pressRepeatedly(const HardKey &key);
+    void commit(const QString &text);
+    QWidget *focus();
     void pointAt(const Action &action);
+    void pointTwiceAt(const QPoint &place);
     void close(int way);
     void compare();
     Seen seen();

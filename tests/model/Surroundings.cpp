@@ -7,6 +7,7 @@
 #include <HMIDevice/HMIDeviceInfo.h>
 
 #include <QApplication>
+#include <QDoubleValidator>
 #include <QIntValidator>
 
 namespace {
@@ -31,6 +32,17 @@ class WholeNumbers : public QIntValidator
 public:
     WholeNumbers(int minimum, int maximum)
         : QIntValidator(minimum, maximum, nullptr)
+    {
+    }
+
+    void fixup(QString &) const override { }
+};
+
+class Decimals : public QDoubleValidator
+{
+public:
+    Decimals()
+        : QDoubleValidator(-99.5, 1000, 2, nullptr)
     {
     }
 
@@ -228,9 +240,18 @@ const QValidator *Surroundings::validator(int index)
     static const Nothing nothing;
     static const Capitals capitals;
     static const ThreeCharacters threeCharacters;
-    static const QValidator *const list[] = { nullptr, &hundred, &signedRange,     &numberLike,
-                                              nullptr, &nothing, &threeCharacters, &capitals };
+    static const Decimals decimals;
+    static const QtDifferences::PatternValidator pattern(
+        QtDifferences::Pattern(u("[A-Z]{0,3}(-?[0-9]*)?")), nullptr);
+    static const QValidator *const list[] = { nullptr,   &hundred, &signedRange,     &numberLike,
+                                              nullptr,   &nothing, &threeCharacters, &capitals,
+                                              &decimals, &pattern };
     return list[index];
+}
+
+QValidator *Surroundings::newValidator()
+{
+    return new Nothing;
 }
 
 QObject *Surroundings::newTarget(int index)

@@ -85,6 +85,7 @@ public:
     QStringList seenTargets() const;
 
     static const QValidator *validator(int index); // null where there is none
+    static QValidator *newValidator();
 
 private:
     Q_DISABLE_COPY(Surroundings)

@@ -11,6 +11,13 @@
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #include <QTextCodec>
 #endif
+#if QT_VERSION < QT_VERSION_CHECK(5, 1, 0)
+#include <QRegExp>
+#include <QRegExpValidator>
+#else
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
+#endif
 
 // Everything in which Qt 4.8, 5 and 6 differ for the tests, once and by purpose.
 
@@ -36,6 +43,15 @@
 #endif
 
 namespace QtDifferences {
+
+// A pattern, and the validator that accepts what matches it.
+#if QT_VERSION < QT_VERSION_CHECK(5, 1, 0)
+typedef QRegExp Pattern;
+typedef QRegExpValidator PatternValidator;
+#else
+typedef QRegularExpression Pattern;
+typedef QRegularExpressionValidator PatternValidator;
+#endif
 
 // A function that is called with each message, and how to make it the one that is called.
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
