@@ -161,6 +161,20 @@ Action decodedOne(const QByteArray &bytes)
     return action;
 }
 
+// In words, and empty for most actions.
+QString peculiarityOf(const Action &action)
+{
+    static const char *const writing[] = { ", which takes texts", ", which refuses texts",
+                                           ", which writes capitals" };
+    if (action.kind == SetObject && isChoosy(action) && targetOf(action) != NoTarget)
+        return u(writing[action.c % 3]);
+    if (action.kind == SetValidator && isDestroyed(action))
+        return u(" and destroy it");
+    if (action.kind == PointAt && isDoubleClick(action))
+        return u(" twice");
+    return action.kind == TouchField && isByMouse(action) ? u(" by the mouse") : QString();
+}
+
 QString nameOf(ActionKind kind)
 {
     for (const auto &row : kinds) {
@@ -298,16 +312,8 @@ QString described(const Action &action)
     case Type:
         return name + QKeySequence(key.modifiers).toString() + quoted(key.text)
             + mannerNameOf(action);
-    case PointAt:
-    case TouchField:
-        return name + QString::fromLatin1("%1 %2 %3").arg(action.a).arg(action.b).arg(action.c)
-            + u(action.kind == PointAt  ? isDoubleClick(action) ? " twice" : ""
-                    : isByMouse(action) ? " by the mouse"
-                                        : "");
     case SetObject:
-        return name + u(targetNames[targetOf(action)])
-            + (isChoosy(action) ? QString::fromLatin1(", writing %1").arg(action.c % 3)
-                                : QString());
+        return name + u(targetNames[targetOf(action)]) + peculiarityOf(action);
     case DestroyTarget:
     case MoveTarget:
         return name + u(targetNames[targetOf(action)]);
@@ -316,8 +322,7 @@ QString described(const Action &action)
     case SetMaxLength:
         return name + QString::number(maxLengthOf(action));
     case SetValidator:
-        return name + u(validatorNames[validatorOf(action)])
-            + u(isDestroyed(action) ? " and destroy it" : "");
+        return name + u(validatorNames[validatorOf(action)]) + peculiarityOf(action);
     case SetEditMode:
         return name + QString::number(editModeOf(action));
     case SetLimits:
@@ -328,10 +333,7 @@ QString described(const Action &action)
     case SetDecimalPoint:
         return name + u(isOn(action) ? "on" : "off");
     default:
-        return QString::fromLatin1("%1%2 %3 %4")
-            .arg(name)
-            .arg(action.a)
-            .arg(action.b)
-            .arg(action.c);
+        return name + QString::fromLatin1("%1 %2 %3").arg(action.a).arg(action.b).arg(action.c)
+            + peculiarityOf(action);
     }
 }

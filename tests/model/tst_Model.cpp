@@ -55,6 +55,10 @@ const struct
       "set object field; open" },
     { "CharacterKeypad", "2b39b169",
       "open" },
+    { "GCodeKeypad", "f6828037c37b2bf52b88e1f7",
+      "register view 130 128 55; set object derived DateTimeField, which writes capitals; open" },
+    { "vondKeypad", "39381bc4f682803738c7016d6a58908a",
+      "open; register view 130 128 55; tap \"ESC\"; open" },
     // pages of candidates, and a pinyin of eleven letters
     { "CharacterKeypad", "2c56b6675296fd787d3342b0673f6f24",
       "open; tap \"CN\"; tap \"n\"; tap \">\"" },
@@ -77,6 +81,13 @@ const struct
       "set text \"2024-02-29 12:34:56\"; set text \"1999-12-31 23:59:59\"" },
     { "DateTimeKeypad", "435310babc85c5bc613d6905",
       "open; touch field 133 197 188; tap \"0\"" },
+    // how often a target is written, keys that are left, and input methods
+    { "NumericKeypad", "399db609c013db099215bb0b",
+      "open; set object short field; press Ctrl+Return" },
+    { "NumericKeypad", "455be5c0a97f9f12735a94f1",
+      "open; type \"7\"; tap and leave \"BSP\"" },
+    { "NumericKeypad", "c5f8bb4d42504139a1ac58c7",
+      "set object DateTimeField; open; type \"٣\" by the input method" },
     // keys of an edit line, and a field that hands the keyboard on
     { "NumericKeypad", "7caf241ad2adbdac86133682",
       "open; set text \"数控机床\"; press Ctrl+Shift+Backspace" },
