@@ -16,6 +16,7 @@
 #include <sys/wait.h>
 #include <ucontext.h>
 #include <unistd.h>
+#include <unwind.h>
 
 extern "C" {
 void *__libc_malloc(size_t size);
@@ -29,7 +30,7 @@ namespace FailingMemory {
 namespace {
 
 const int mostSeconds = 20;
-const int mostFrames = 100;
+const int mostFrames = 200;
 const size_t longestPlace = 400;
 const int firstStatus = 64; // of a child that tells its outcome; others are those of exit()
 
@@ -42,13 +43,46 @@ Lack lack = OneAllocation;
 Tally *tally = nullptr;
 bool (*isTargetWhole)() = nullptr;
 const char *ours = nullptr;
-char *place = nullptr; // of a crash, in memory that parent and child share
+char *place = nullptr;                     // of the end, in memory that parent and child share
+void *functionWithoutExceptions = nullptr; // while an exception ends the program there
 
 [[noreturn]] void endChild(Outcome outcome)
 {
     isFailing = false;
     isCounting = false;
     _exit(firstStatus + (isTargetWhole() ? outcome : TargetBroken));
+}
+
+// How a child came to its end, and what that is called where nothing of ours was to blame.
+struct End
+{
+    const char *name;
+    Outcome outcomeOfOthers;
+};
+const End crash = { "a signal", CrashedInside };
+const End abortion = { "abort()", Aborted };
+const End termination = { "std::terminate()", Terminated };
+
+// What stands in for the system's functions here, and what ends a program on behalf of its caller.
+const char *const standIns[] = { "malloc",
+                                 "calloc",
+                                 "realloc",
+                                 "memalign",
+                                 "aligned_alloc",
+                                 "posix_memalign",
+                                 "__gxx_personality_v0" };
+const char *const throwers[] = { "__cxa_throw", "__cxa_rethrow" };
+const char *const reporters[] = { "_ZNK14QMessageLogger5fatalEPKcz", "_Z9qt_assertPKcS0_i",
+                                  "_Z11qt_assert_xPKcS0_S0_i", "_Z10qTerminatev" };
+
+template <size_t count>
+bool isNamed(const Dl_info &frame, const char *const (&names)[count])
+{
+    for (const char *name : names) {
+        if (frame.dli_sname && std::strcmp(frame.dli_sname, name) == 0)
+            return true;
+    }
+    return false;
 }
 
 bool isOf(const Dl_info &frame, const char *library)
@@ -59,23 +93,35 @@ bool isOf(const Dl_info &frame, const char *library)
 bool isOfTheSystem(const Dl_info &frame)
 {
     return !frame.dli_fname || isOf(frame, "/libc.so") || isOf(frame, "/libstdc++")
-        || isOf(frame, "/libgcc_s") || isOf(frame, "/ld-linux") || isOf(frame, "linux-vdso");
+        || isOf(frame, "/libgcc_s") || isOf(frame, "/ld-linux") || isOf(frame, "linux-vdso")
+        || isNamed(frame, standIns);
+}
+
+bool isProgram(const Dl_info &frame)
+{
+    return !isOf(frame, ".so");
+}
+
+// The frame to which a call returns; the byte before is the call's, which may end its function.
+bool findFrame(void *address, Dl_info *frame)
+{
+    return address && dladdr(static_cast<char *>(address) - 1, frame);
 }
 
 // Notes the place, if a library or program is there.
-bool findPlace(void *address, Outcome *outcome)
+bool findPlace(void *address, const End &end, Outcome *outcome)
 {
     Dl_info frame;
-    if (!dladdr(address, &frame) || isOfTheSystem(frame))
+    if (!findFrame(address, &frame) || isOfTheSystem(frame) || isNamed(frame, reporters))
         return false;
-    const bool isProgram = !std::strstr(frame.dli_fname, ".so");
-    *outcome = isProgram || isOf(frame, ours) ? CrashedInOurs : CrashedInside;
-    if (*outcome == CrashedInOurs) {
-        std::snprintf(place, longestPlace, "%s, address %#tx, at allocation %ld", frame.dli_fname,
+    *outcome = isProgram(frame) || isOf(frame, ours) ? EndedInOurs : end.outcomeOfOthers;
+    if (*outcome == EndedInOurs) {
+        std::snprintf(place, longestPlace, "%s in %s, address %#tx, at allocation %ld", end.name,
+                      frame.dli_fname,
                       static_cast<char *>(address) - static_cast<char *>(frame.dli_fbase),
                       tally->allocations);
     } else {
-        std::snprintf(place, longestPlace, "%s: %s", frame.dli_fname,
+        std::snprintf(place, longestPlace, "%s in %s: %s", end.name, frame.dli_fname,
                       frame.dli_sname ? frame.dli_sname : "(no name)");
     }
     return true;
@@ -95,41 +141,66 @@ void *callerOfNothing(const ucontext_t *context)
     return nullptr;
 }
 
-// The frames of this handler come first, then that of the kernel's return from it, which is libc's.
-Outcome placeOfCrash(const ucontext_t *context)
+// The frames of a handler come first, then one of the system, which called it.
+Outcome innermostPlace(const End &end)
 {
-    Outcome outcome = CrashedInOurs; // until somebody knows better
-    if (findPlace(callerOfNothing(context), &outcome))
-        return outcome;
     void *frames[mostFrames];
     const int count = backtrace(frames, mostFrames);
-    bool isBelowTheHandler = false;
-    for (int i = 0; i < count; ++i) {
-        Dl_info frame;
-        if (dladdr(frames[i], &frame) && isOfTheSystem(frame))
-            isBelowTheHandler = true;
-        else if (isBelowTheHandler && findPlace(frames[i], &outcome))
+    Dl_info frame;
+    int first = 0;
+    while (first < count && !(findFrame(frames[first], &frame) && isOfTheSystem(frame)))
+        ++first;
+    for (int i = first; i < count; ++i) {
+        if (findFrame(frames[i], &frame) && isNamed(frame, reporters))
+            first = i + 1;
+    }
+    Outcome outcome = EndedInOurs; // until somebody knows better
+    for (int i = first; i < count; ++i) {
+        if (findPlace(frames[i], end, &outcome))
             return outcome;
     }
-    std::snprintf(place, longestPlace, "an unknown place, after allocation %ld",
+    std::snprintf(place, longestPlace, "%s in an unknown place, after allocation %ld", end.name,
                   tally->allocations);
     return outcome;
 }
 
-void onCrash(int, siginfo_t *, void *context)
+void onSignal(int signal, siginfo_t *, void *context)
 {
     isFailing = false;
-    endChild(placeOfCrash(static_cast<const ucontext_t *>(context)));
+    Outcome outcome = EndedInOurs;
+    if (signal == SIGABRT)
+        endChild(innermostPlace(abortion));
+    if (findPlace(callerOfNothing(static_cast<const ucontext_t *>(context)), crash, &outcome))
+        endChild(outcome);
+    endChild(innermostPlace(crash));
 }
 
-void onAbort(int)
+// Where the unwinder found no way on, though the program would have caught the exception.
+void *endOfTheWay()
 {
-    endChild(Aborted);
+    void *frames[mostFrames];
+    Dl_info frame;
+    int last = backtrace(frames, mostFrames) - 1;
+    bool isThrown = false;
+    for (int i = 0; i <= last; ++i)
+        isThrown = isThrown || (findFrame(frames[i], &frame) && isNamed(frame, throwers));
+    return isThrown ? frames[last] : nullptr;
 }
 
+// Not the function that has thrown is to blame, but the one that must let no exception out, or that
+// the exception cannot pass. In this program that is the deletion of what it has built.
 void onTerminate()
 {
-    endChild(Terminated);
+    isFailing = false;
+    Outcome outcome = EndedInOurs;
+    Dl_info frame;
+    if (findFrame(functionWithoutExceptions, &frame) && isProgram(frame))
+        endChild(LeftDestructor);
+    for (void *blamed : { functionWithoutExceptions, endOfTheWay() }) {
+        if (findPlace(blamed, termination, &outcome))
+            endChild(outcome);
+    }
+    endChild(innermostPlace(termination));
 }
 
 void listenForTheEnd()
@@ -139,12 +210,11 @@ void listenForTheEnd()
     alternative.ss_sp = stack;
     alternative.ss_size = sizeof(stack);
     sigaltstack(&alternative, nullptr);
-    struct sigaction crash = {};
-    crash.sa_sigaction = onCrash;
-    crash.sa_flags = int(SA_SIGINFO | SA_ONSTACK | SA_RESETHAND);
-    for (int signal : { SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGTRAP })
-        sigaction(signal, &crash, nullptr);
-    std::signal(SIGABRT, onAbort);
+    struct sigaction action = {};
+    action.sa_sigaction = onSignal;
+    action.sa_flags = int(SA_SIGINFO | SA_ONSTACK | SA_RESETHAND);
+    for (int signal : { SIGABRT, SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGTRAP })
+        sigaction(signal, &action, nullptr);
     std::signal(SIGALRM, SIG_DFL);
     std::set_terminate(onTerminate);
     alarm(mostSeconds);
@@ -154,7 +224,7 @@ void listenForTheEnd()
 void note(int status)
 {
     ++tally->tried;
-    Outcome outcome = CrashedInOurs; // until somebody knows better
+    Outcome outcome = EndedInOurs; // until somebody knows better
     if (WIFEXITED(status) && WEXITSTATUS(status) >= firstStatus)
         outcome = Outcome(WEXITSTATUS(status) - firstStatus);
     else if (WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM)
@@ -267,3 +337,22 @@ int posix_memalign(void **memory, size_t alignment, size_t size)
     *memory = __libc_memalign(alignment, size);
     return *memory ? 0 : ENOMEM;
 }
+
+// Is asked by the unwinder what to do in a frame. What ends the program by std::terminate() does so
+// from within the question. The ABI of 32-bit ARM asks otherwise: there the thrower is told.
+#ifndef __ARM_EABI_UNWINDER__
+extern "C" __attribute__((visibility("default"))) _Unwind_Reason_Code __gxx_personality_v0(
+    int version, _Unwind_Action actions, _Unwind_Exception_Class type, _Unwind_Exception *exception,
+    _Unwind_Context *context)
+{
+    typedef _Unwind_Reason_Code Personality(int, _Unwind_Action, _Unwind_Exception_Class,
+                                            _Unwind_Exception *, _Unwind_Context *);
+    static Personality *const next =
+        reinterpret_cast<Personality *>(dlsym(RTLD_NEXT, "__gxx_personality_v0"));
+    if (actions & _UA_HANDLER_FRAME)
+        functionWithoutExceptions = reinterpret_cast<void *>(_Unwind_GetIP(context));
+    const _Unwind_Reason_Code answer = next(version, actions, type, exception, context);
+    functionWithoutExceptions = nullptr;
+    return answer;
+}
+#endif

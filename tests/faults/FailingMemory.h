@@ -20,14 +20,15 @@ enum Lack {
 };
 
 enum Outcome {
-    WentOn,        // the work was done to its end
-    Thrown,        // std::bad_alloc reached the caller of the work
-    Terminated,    // std::bad_alloc met code that lets no exception through
-    Aborted,       // somebody called abort(), as qFatal() does
-    CrashedInside, // a signal, the innermost frame being of another library
-    CrashedInOurs, // a signal, the innermost frame being of the library or of this program
-    TargetBroken,  // the target had neither its old text nor its new one
-    Hung,          // no end within seconds
+    WentOn,         // the work was done to its end
+    Thrown,         // std::bad_alloc reached the caller of the work
+    Terminated,     // std::bad_alloc met a function of another library that lets none through
+    LeftDestructor, // std::bad_alloc left a destructor that the work called, which is the end
+    Aborted,        // another library called abort(), as qFatal() does
+    CrashedInside,  // a signal, the innermost frame being of another library
+    EndedInOurs,    // one of these three, by the library or by this program
+    TargetBroken,   // the target had a text that it may not have
+    Hung,           // no end within seconds
     OutcomeCount
 };
 
@@ -36,14 +37,14 @@ struct Tally
     long allocations; // in the work
     long tried;
     long outcomes[OutcomeCount];
-    std::map<std::string, long> places; // innermost frames of crashes, with the library's name
+    std::map<std::string, long> places; // where the program ended, with the library's name
 };
 
 // Does \a work, with the allocations in it failing whose number can be divided by \a stride.
 // Children ask \a isTargetWhole whenever they end, which must not allocate.
 Tally tryAll(const std::function<void()> &work, bool (*isTargetWhole)(), Lack lack, long stride);
 
-// The library whose crashes are ours, by a part of its file's name.
+// The library whose ends are ours, by a part of its file's name.
 void setOurs(const char *library);
 
 } // namespace FailingMemory
