@@ -22,6 +22,7 @@ bool failuresAreOver = true;
 int errorToSet = 0;
 FailingCalls::Way wayToFail = FailingCalls::Once;
 int callsCounted = 0;
+bool turnHasCome = false;
 const char *nameOfFailure = nullptr;
 bool isOfDictionary[mostFiles];
 bool isForReadingOnly = false;
@@ -57,28 +58,33 @@ bool concerns(int file)
     return file >= 0 && file < mostFiles && isOfDictionary[file];
 }
 
-// Whether it is the turn of this call to fail. It has set errno then.
+// Whether it is the turn of this call to fail.
 template <class FileOrPath>
-bool fails(FileOrPath what, const char *name)
+bool isTurnOf(FileOrPath what)
 {
     if (failuresAreOver || !concerns(what))
         return false;
     ++callsCounted;
     const bool turn =
         wayToFail == FailingCalls::Once ? callsCounted == callToFail : callsCounted >= callToFail;
-    if (!turn)
-        return false;
-    nameOfFailure = name;
+    turnHasCome = turnHasCome || turn;
+    return turn;
+}
+
+void noteFailure(const char *name)
+{
+    if (!nameOfFailure)
+        nameOfFailure = name;
     errno = errorToSet;
-    return true;
 }
 
 // The bytes that are read: -1 for an error.
 template <class Read>
 ssize_t readOrFail(int file, const char *name, size_t size, const Read &read)
 {
-    if (!fails(file, name))
+    if (!isTurnOf(file))
         return read(size);
+    noteFailure(name);
     return errorToSet == FailingCalls::shortRead ? read((size + 1) / 2) : -1;
 }
 
@@ -86,7 +92,10 @@ ssize_t readOrFail(int file, const char *name, size_t size, const Read &read)
 template <class FileOrPath>
 bool failsWithAnError(FileOrPath what, const char *name)
 {
-    return fails(what, name) && errorToSet != FailingCalls::shortRead;
+    if (!isTurnOf(what) || errorToSet == FailingCalls::shortRead)
+        return false;
+    noteFailure(name);
+    return true;
 }
 
 } // namespace
@@ -98,6 +107,7 @@ void FailingCalls::arrange(int number, int error, Way way)
     errorToSet = error;
     wayToFail = way;
     callsCounted = 0;
+    turnHasCome = false;
     nameOfFailure = nullptr;
 }
 
@@ -114,6 +124,11 @@ bool FailingCalls::isOver()
 int FailingCalls::callsSeen()
 {
     return callsCounted;
+}
+
+bool FailingCalls::isReached()
+{
+    return turnHasCome;
 }
 
 bool FailingCalls::hasFailed()

@@ -20,6 +20,10 @@ void end();
 bool isOver();
 
 int callsSeen();
+
+// Whether the number of the call to fail was come to, and whether that call, or with the second way
+// one after it, did fail: only reads can be short. The name is that of the first.
+bool isReached();
 bool hasFailed();
 const char *failedCall();
 
