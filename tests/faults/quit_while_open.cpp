@@ -3,6 +3,8 @@
 // A program that ends while all five keypads are open, each opened by the one before. Its argument
 // says what becomes of the view. It ends with 0 and without a word when all went well.
 
+#include "support/QtDifferences.h"
+
 #include <HMIDevice/CharacterKeypad.h>
 #include <HMIDevice/DateTimeKeypad.h>
 #include <HMIDevice/GCodeKeypad.h>
@@ -17,9 +19,20 @@
 #include <QScopedPointer>
 #include <QTimerEvent>
 
+#include <cstdio>
 #include <cstring>
 
 namespace {
+
+// What Qt's platform without a display says of windows that have a smallest size.
+const char messageOfThePlatform[] = "This plugin does not support propagateSizeHints()";
+
+HMI_MESSAGE_HANDLER(printOthers, text)
+{
+    const QString message = QtDifferences::messageText(text);
+    if (message != QLatin1String(messageOfThePlatform))
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
 
 template <class Keypad>
 QDialog *bound(QObject *target)
@@ -73,6 +86,7 @@ private:
 
 int main(int argc, char *argv[])
 {
+    QtDifferences::installMessageHandler(printOthers);
     QApplication application(argc, argv);
     const char *const fate = argc == 2 ? argv[1] : "";
     QScopedPointer<QGraphicsView> ownView;
