@@ -216,12 +216,15 @@ void tst_CharacterKeypad::deletingItEndsWhatAnApplicationBegan()
     DictionaryFile dictionary;
     CHECKED(dictionary.create(everydayWords()));
     const QByteArray before = DictionaryFile::bytes();
-    MessageLog log; // of what Qt says about a connection that is still held
+    MessageLog log;
     QScopedPointer<CharacterKeypad> keypad(new CharacterKeypad(nullptr, Qt::WindowFlags()));
     QSqlDatabase held = QSqlDatabase::database(u("pinyin"));
     QVERIFY(held.transaction());
     QVERIFY(QSqlQuery(held).exec(DictionaryFile::insertion("qq", u("轻切"))));
     keypad.reset();
+    QCOMPARE(log.messages(),
+             QStringList(u("QSqlDatabasePrivate::removeDatabase: connection 'pinyin' is still in "
+                           "use, all queries will cease to work.")));
     QVERIFY(!held.isOpen());
     QCOMPARE(DictionaryFile::bytes(), before);
     QCOMPARE(DictionaryFile::entries(), QStringList(u("data.db")));
