@@ -19,8 +19,10 @@ VALGRIND = (
     "--child-silent-after-fork=yes")
 # Slow programs are no failures here.
 PATIENCE = {"QTEST_FUNCTION_TIMEOUT": "3600000"}
-# One replaces the allocator, which memcheck does as well; the other opens thousands of keypads.
-LEFT_OUT = ("out_of_memory", "tst_FailingDictionary")
+LEFT_OUT = {
+    "out_of_memory": "replaces the allocator, as memcheck does",
+    "tst_FailingDictionary": "opens thousands of keypads",
+}
 
 
 def listed_tests(folder):
@@ -31,8 +33,16 @@ def listed_tests(folder):
     for test in json.loads(listing)["tests"]:
         properties = {entry["name"]: entry["value"] for entry in test.get("properties", ())}
         surroundings = dict(line.split("=", 1) for line in properties.get("ENVIRONMENT", ()))
-        if test["name"] not in LEFT_OUT:
+        if test["name"] in LEFT_OUT:
+            print(f"{test['name']}: left out, as it {LEFT_OUT[test['name']]}", flush=True)
+        else:
             yield test["name"], test["command"], surroundings
+
+
+def is_program(path):
+    """Whether a file is what the kernel runs itself, and no script of a shell."""
+    with open(path, "rb") as file:
+        return file.read(4) == b"\x7fELF"
 
 
 class Memcheck:
@@ -41,22 +51,26 @@ class Memcheck:
     def __init__(self, source, build):
         self.wrapper = str(source / "tests/support/with-totals")
         self.valgrind = [*VALGRIND, f"--suppressions={source}/tests/proof/memcheck.supp"]
+        self.build = build
         self.logs = build / "memcheck"
         self.logs.mkdir(exist_ok=True)
 
     def command(self, name, command):
         """The command of a test with Valgrind before its program."""
-        report = f"--log-file={self.logs}/{name}.report"
-        if command[0] != self.wrapper:
-            return [*self.valgrind, report, *command]
-        return [self.wrapper, f"{self.logs}/{name}.log", *self.valgrind, report, *command[2:]]
+        wrapper = []
+        if command[0] == self.wrapper:
+            wrapper, command = [self.wrapper, f"{self.logs}/{name}.log"], command[2:]
+        program = pathlib.Path(command[0]).resolve()
+        if self.build.resolve() not in program.parents or not is_program(program):
+            sys.exit(f"{name} starts {command[0]}, which is not what was built to be looked at")
+        return [*wrapper, *self.valgrind, f"--log-file={self.logs}/{name}.report", *command]
 
     def run(self, test):
         """Runs a test; true when nothing was found."""
         name, command, surroundings = test
         start = time.monotonic()
         run = subprocess.run(
-            self.command(name, command), env={**os.environ, **surroundings, **PATIENCE},
+            command, env={**os.environ, **surroundings, **PATIENCE},
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         report = (self.logs / f"{name}.report").read_text(errors="replace")
         is_clean = run.returncode == 0 and not report
@@ -79,6 +93,8 @@ def main():
     if unknown or not tests:
         sys.exit(f"no such suite: {' '.join(sorted(unknown))}")
     memcheck = Memcheck(source, build)
+    tests = [(name, memcheck.command(name, command), surroundings)
+             for name, command, surroundings in tests]
     start = time.monotonic()
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         results = list(pool.map(memcheck.run, tests))
