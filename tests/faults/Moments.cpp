@@ -13,6 +13,7 @@ namespace {
 const Moment momentTable[] = {
     { "before it is opened",                 BeforeOpening, ByConfirming  },
     { "while it is open",                    InTheLoop,     ByConfirming  },
+    { "in clicked() of a typing key",        InTypingKey,   ByConfirming  },
     { "in textChanged()",                    InTextChanged, ByConfirming  },
     { "in clicked() of the confirming key",  InClicked,     ByConfirming  },
     { "in the target's setter",              InTheSetter,   ByConfirming  },
@@ -40,6 +41,9 @@ void watchFor(Once *once, QDialog *keypad, HookedField *field, const Moment &mom
     switch (moment.when) {
     case InTextChanged:
         once->watch(editLine(keypad), SIGNAL(textChanged(QString)));
+        break;
+    case InTypingKey:
+        once->watch(key(keypad, u("1")), SIGNAL(clicked()));
         break;
     case InClicked:
         once->watch(endingKey(keypad, moment.end), SIGNAL(clicked()));

@@ -12,6 +12,7 @@
 
 enum When {
     BeforeOpening,
+    InTypingKey,   // in clicked() of a key that types
     InTheLoop,     // by an event of its own, while the keypad is open
     InTextChanged, // of the edit line
     InTheSetter,   // of the target's property "text"

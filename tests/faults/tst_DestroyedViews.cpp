@@ -16,8 +16,8 @@ namespace {
 
 bool allowsDeletion(const Moment &moment)
 {
-    return moment.when == InTheLoop || moment.when == InClicked || moment.when == InTheSetter
-        || moment.when == InFinished || moment.when == InKeyHandedOn;
+    return moment.when == InTheLoop || moment.when == InTypingKey || moment.when == InClicked
+        || moment.when == InTheSetter || moment.when == InFinished || moment.when == InKeyHandedOn;
 }
 
 bool allowsLaterDeletion(const Moment &moment)
