@@ -93,7 +93,7 @@ int main(int argc, char *argv[])
                              std::numeric_limits<int>::max(), 0);
     const double ofQt = qMax(0.0, bare.bytesPerOpening); // Qt 6 leaves some for each activation
     const Growth fresh = grow(NewKeypads, "New keypads", openings / 20 + 2 * warmUp, newAllowance,
-                              ofQt + newAllowancePerOpening);
+                              newAllowancePerOpening);
     const Growth kept = grow(KeptKeypads, "Kept keypads", openings, keptAllowance, ofQt);
     QStringList messages = log.messages();
     messages.removeAll(QLatin1String(messageOfThePlatform));
