@@ -11,11 +11,15 @@
 #include "support/DictionaryFile.h"
 
 #include <QDir>
+#include <QHash>
+#include <QPair>
 #include <QSet>
 
 #include <algorithm>
 
 namespace {
+
+const char endOfList = '\f';
 
 bool isTypable(const QByteArray &key)
 {
@@ -67,6 +71,42 @@ void lookAt(const RankedRows &ranking)
     promise(keys == ranking.keys, "the keys are counted");
 }
 
+bool hasVowel(const QByteArray &key)
+{
+    return std::any_of(key.begin(), key.end(),
+                       [](char letter) { return QByteArray("aeiouv").contains(letter); });
+}
+
+// By key and word, the foremost list that has the word with that pinyin; but for keys that are more
+// likely the beginning of others.
+QHash<QPair<QByteArray, QString>, ListRank> foremostLists(const QVector<WordEntry> &entries)
+{
+    QHash<QPair<QByteArray, QString>, ListRank> lists;
+    for (const WordEntry &entry : entries) {
+        for (const QByteArray &key : wholePinyin(entry.syllables)) {
+            const QPair<QByteArray, QString> place(key, entry.word);
+            if (hasVowel(key))
+                lists[place] = qMin(lists.value(place, entry.list), entry.list);
+        }
+    }
+    return lists;
+}
+
+void lookAtOrder(const RankedRows &ranking, const QVector<WordEntry> &entries)
+{
+    const QHash<QPair<QByteArray, QString>, ListRank> lists = foremostLists(entries);
+    QByteArray key;
+    ListRank last = OwnList;
+    for (const RankedRow &row : ranking.rows) {
+        if (row.key != key)
+            last = OwnList;
+        key = row.key;
+        const ListRank list = lists.value(qMakePair(row.key, row.candidate), last);
+        promise(last <= list, "words of an earlier list come first", row.candidate);
+        last = list;
+    }
+}
+
 void makeDictionaryOf(const RankedRows &ranking)
 {
     writeDictionary(DictionaryFile::path(), ranking.rows);
@@ -75,6 +115,30 @@ void makeDictionaryOf(const RankedRows &ranking)
     for (const QString &finding : report.findings)
         promise(finding.contains(QLatin1String("standard syllables without a candidate")),
                 "a dictionary passes the check of the program that made it", finding);
+}
+
+ListRank rankOf(char kind)
+{
+    if (kind == 'o' || kind == 'O')
+        return OwnList;
+    return kind == 'm' || kind == 'M' ? MachineToolList : GeneralList;
+}
+
+// False where there is no word list in \a lines, which a failure has to tell.
+bool read(WordList *words, const QByteArray &lines, ListRank rank)
+{
+    const QString name = DictionaryFile::directory() + QLatin1String("/words.tsv");
+    QFile file(name);
+    promise(file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size(), "a disk");
+    file.close();
+    try {
+        words->read(name, rank);
+    } catch (const Failure &failure) {
+        promise(failure.message.startsWith(QDir::toNativeSeparators(name)),
+                "a failure names the file", failure.message);
+        return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -88,23 +152,20 @@ void WordInput::readAsSyllables(const QByteArray &text)
     fit(syllables, columns.last());
 }
 
-void WordInput::readAsList(const QByteArray &list)
+void WordInput::readAsLists(const QByteArray &lists)
 {
     DictionaryFile dictionary;
-    const QString file = DictionaryFile::directory() + QLatin1String("/words.tsv");
-    QFile words(file);
-    promise(words.open(QIODevice::WriteOnly) && words.write(list) == list.size(), "a disk");
-    words.close();
-    WordList entries;
-    try {
-        entries.read(file, GeneralList);
-    } catch (const Failure &failure) {
-        promise(failure.message.startsWith(QDir::toNativeSeparators(file)),
-                "a failure names the file", failure.message);
-        return;
+    WordList words;
+    QByteArray lines;
+    for (const QByteArray &list : lists.split(endOfList)) {
+        const char kind = list.isEmpty() ? 'g' : list.at(0);
+        lines = (kind >= 'A' && kind <= 'Z' ? lines : QByteArray()) + list.mid(1);
+        if (!read(&words, lines, rankOf(kind)))
+            return;
     }
-    lookAt(entries.entries());
-    const RankedRows ranking = ranked(entries.entries());
+    lookAt(words.entries());
+    const RankedRows ranking = ranked(words.entries());
     lookAt(ranking);
+    lookAtOrder(ranking, words.entries());
     makeDictionaryOf(ranking);
 }

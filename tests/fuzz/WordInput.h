@@ -10,8 +10,10 @@ namespace WordInput {
 // Syllables and, behind a tab, a word.
 void readAsSyllables(const QByteArray &text);
 
-// A word list, from which a dictionary is made and looked at as --check does.
-void readAsList(const QByteArray &list);
+// Word lists with form feeds between, from which a dictionary is made and looked at as --check
+// does. The first letter of a list is its kind: own words, machine-tool words or general ones. A
+// capital repeats all lines of the list before.
+void readAsLists(const QByteArray &lists);
 
 } // namespace WordInput
 

@@ -31,7 +31,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         WordInput::readAsSyllables(content);
         break;
     case 'l':
-        WordInput::readAsList(content);
+        WordInput::readAsLists('g' + content);
+        break;
+    case 'm':
+        WordInput::readAsLists(content);
         break;
     case 'r':
         DatabaseInput::readAsRows(content);
