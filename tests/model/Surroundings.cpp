@@ -108,10 +108,10 @@ public:
     }
 };
 
-// A window that comes while a keypad is shown would take the keyboard from it.
+// A window that comes while a keypad is shown would take the keyboard from it; one may go.
 void show(QWidget *widget, bool visible)
 {
-    if (!QApplication::activeModalWidget())
+    if (!visible || !QApplication::activeModalWidget())
         widget->setVisible(visible);
 }
 

@@ -81,13 +81,15 @@ const struct
       "set text \"2024-02-29 12:34:56\"; set text \"1999-12-31 23:59:59\"" },
     { "DateTimeKeypad", "435310babc85c5bc613d6905",
       "open; touch field 133 197 188; tap \"0\"" },
-    // how often a target is written, keys that are left, and input methods
+    // how often a target is written, keys that are left, input methods, and the mouse
     { "NumericKeypad", "399db609c013db099215bb0b",
       "open; set object short field; press Ctrl+Return" },
     { "NumericKeypad", "455be5c0a97f9f12735a94f1",
       "open; type \"7\"; tap and leave \"BSP\"" },
     { "NumericKeypad", "c5f8bb4d42504139a1ac58c7",
       "set object DateTimeField; open; type \"٣\" by the input method" },
+    { "DateTimeKeypad", "5c053950b98179eb",
+      "open; touch field 129 121 235 by the mouse" },
     // keys of an edit line, and a field that hands the keyboard on
     { "NumericKeypad", "7caf241ad2adbdac86133682",
       "open; set text \"数控机床\"; press Ctrl+Shift+Backspace" },
