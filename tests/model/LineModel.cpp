@@ -13,8 +13,7 @@ QString firstOf(const QString &text, int count)
 // Control characters are shown as blanks.
 bool isBlank(QChar character)
 {
-    return character <= QLatin1Char(' ') || character == QChar(0xa0)
-        || character == QChar(QChar::LineSeparator);
+    return character.isSpace() || character < QLatin1Char(' ');
 }
 
 bool separatesWords(QChar character)

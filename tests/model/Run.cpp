@@ -37,13 +37,11 @@ QList<Action> shortened(KeypadName name, QList<Action> actions)
     return actions;
 }
 
-QString row(KeypadName name, const QList<Action> &actions)
+QString row(KeypadName name, const QByteArray &actions, QString story)
 {
-    const QByteArray bytes = encoded(actions);
-    QString story = storyOf(name, bytes);
     story.replace(QLatin1Char('\\'), u("\\\\")).replace(QLatin1Char('"'), u("\\\""));
     return QString::fromLatin1("    { \"%1\", \"%2\",\n      \"%3\" },")
-        .arg(u(className(name)), QString::fromLatin1(bytes.toHex()), story);
+        .arg(u(className(name)), QString::fromLatin1(actions.toHex()), story);
 }
 
 QString told(KeypadName name, const QList<Action> &actions, const QStringList &firstSeen)
@@ -61,7 +59,8 @@ QString told(KeypadName name, const QList<Action> &actions, const QStringList &f
         lines << firstSeen;
     else
         lines << session.divergence().differences;
-    lines << u("To see it again, add to the known sequences:") << row(name, actions);
+    lines << u("To see it again, add to the known sequences:")
+          << row(name, encoded(actions), story.join(u("; ")));
     return lines.join(u("\n"));
 }
 
@@ -96,7 +95,7 @@ bool runActions(KeypadName name, const unsigned char *bytes, std::size_t size, R
         done = actions.mid(0, session.actionsDone() + 1);
         differences = session.divergence().differences;
     }
-    printFirst(row(name, done), differences);
+    printFirst(row(name, encoded(done), QString()), differences);
     report->failure = told(name, shortened(name, done), differences);
     return false;
 }
