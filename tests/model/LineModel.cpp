@@ -170,7 +170,7 @@ bool LineModel::press(const HardKey &key)
     const bool shift = (key.modifiers & Qt::ShiftModifier) != 0;
     const bool other = (key.modifiers & (Qt::AltModifier | Qt::MetaModifier)) != 0;
     if (key.modifiers & Qt::ControlModifier)
-        return !other && pressWithControl(key, shift);
+        return pressWithControl(key, shift);
     switch (other ? 0 : key.code) {
     case Qt::Key_Left:
         moveCursor(qMax(0, m_cursor - 1), shift);
@@ -201,12 +201,13 @@ bool LineModel::press(const HardKey &key)
 
 bool LineModel::pressWithControl(const HardKey &key, bool shift)
 {
+    if (key.code == Qt::Key_Up || key.code == Qt::Key_Down)
+        return true; // for texts to choose from, of which a keypad has none
+    if (key.modifiers & (Qt::AltModifier | Qt::MetaModifier))
+        return false;
     switch (key.code) {
     case Qt::Key_A:
         selectAll();
-        return true;
-    case Qt::Key_Up: // for texts to choose from, of which a keypad has none
-    case Qt::Key_Down:
         return true;
     case Qt::Key_Left:
         moveCursor(wordBefore(m_cursor), shift);

@@ -34,6 +34,8 @@ const struct
     // hard keys on panel type 13
     { "GCodeKeypad", "f506748b21c6c290837c96dc",
       "set device type 13; open; press Ctrl+Shift+F25" },
+    { "NumericKeypad", "f3e8a80baf11f93585d2eee0",
+      "set device type 13; open; press Ctrl+Alt+Shift+Down" },
     { "NumericKeypad", "f2defae354e602f49318e8b4",
       "set device type 13; open; press F6" },
     // binding: maximum length, blocked signals, keys
