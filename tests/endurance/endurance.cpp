@@ -27,8 +27,8 @@ const int roundsWithoutPainting = 8; // painting takes most of the time
 // next use. A single object that is left at each opening is many times this.
 const double keptAllowance = 32 * 1024; // bytes
 
-// New keypads take some twenty bytes at each opening, of which none is a block of the library's
-// own. A QObject that is left at each opening takes several times that.
+// Some twenty bytes at each opening of new keypads, of which no tool has shown the place. A QObject
+// that is left at each takes several times that.
 const double newAllowance = 48 * 1024;    // bytes
 const double newAllowancePerOpening = 40; // bytes
 
