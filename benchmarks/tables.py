@@ -36,13 +36,14 @@ def renew_speed(tree, counted, timed, file_row, exceptions):
     """Of counted the ratios, and heap and file; of timed, which has no heap, the times."""
     renew(tree, 'exceptions', ['| What | Up to | Made of |', '|---|---|---|',
                                *(f'| `{name}` | {most} | {reason} |'
-                                 for name, most, reason in exceptions)])
+                                 for name, _, most, reason in exceptions)])
     lines = ['| What | Library, µs | Floor, µs | Ratio of times | of instructions | At most |',
              '|---|---|---|---|---|---|']
     for name, figure in timed.items():
         most = f'{figure.most:g}' if figure.most else ''
+        instructions = f'{counted[name].ratio():.2f}' if counted[name].unit == 'instructions' else ''
         lines.append(f'| {name} | {figure.library:.1f} | {figure.floor:.1f} | {figure.ratio():.2f} | '
-                     f'{counted[name].ratio():.2f} | {most} |')
+                     f'{instructions} | {most} |')
     renew(tree, 'speed', lines)
     lines = ['| What | Library, KiB | Floor, KiB | Ratio | At most |', '|---|---|---|---|---|']
     for name, figure in counted.items():
