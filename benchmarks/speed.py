@@ -39,8 +39,9 @@ class Figure(NamedTuple):
     def ratio(self):
         return self.library / self.floor
 
+    # By two digits after the point, as more of them do not repeat.
     def misses(self):
-        return 0 < self.most < self.ratio()
+        return 0 < self.most < round(self.ratio(), 2)
 
 
 def fail(message):
