@@ -81,6 +81,7 @@ private Q_SLOTS:
     void eachClickSendsTheLabelOnce_data();
     void eachClickSendsTheLabelOnce();
     void relabellingDoesNotConnectAgain();
+    void aKeyThatIsDestroyedIsMappedToNothing();
     void bindingLeavesTheKeySetAlone();
     void deletingItIsSilent_data();
     void deletingItIsSilent();
@@ -148,6 +149,18 @@ void tst_CharacterKeypad::relabellingDoesNotConnectAgain()
     QCOMPARE(shownFace(keypad), u(faces[English].shown));
     CHECKED(press(keypad, "q 1 , Space ."));
     QCOMPARE(editLine(&keypad)->text(), u("q1, ."));
+}
+
+// Relabelled before: a keypad drops what its mapper had connected for the former label.
+void tst_CharacterKeypad::aKeyThatIsDestroyedIsMappedToNothing()
+{
+    CharacterKeypad keypad(nullptr, Qt::WindowFlags());
+    CHECKED(press(keypad, "caps CAPS"));
+    const QSignalMapper *mapper = keypad.findChild<QSignalMapper *>();
+    QToolButton *letter = key(&keypad, u("q"));
+    QCOMPARE(mapper->mapping(u("q")), static_cast<QObject *>(letter));
+    delete letter;
+    QVERIFY(!mapper->mapping(u("q")));
 }
 
 void tst_CharacterKeypad::bindingLeavesTheKeySetAlone()

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void fieldsLookAsTheStyleHasThem();
     void cancelIsLaidOutBeforeOk();
     void sizePolicies();
+    void labelsInsistOnALine();
     void partsFitThePanel_data();
     void partsFitThePanel();
     void textsAreTranslatedInItsContext();
@@ -195,6 +196,15 @@ void tst_DateTimeFace::sizePolicies()
                  int(isLabel ? QSizePolicy::Fixed : QSizePolicy::Expanding));
         QCOMPARE(int(part->sizePolicy().verticalPolicy()), int(QSizePolicy::Ignored));
     }
+}
+
+void tst_DateTimeFace::labelsInsistOnALine()
+{
+    DateTimeStage stage;
+    const QList<QLabel *> labels = stage.keypad.findChildren<QLabel *>();
+    QCOMPARE(labels.size(), 6);
+    for (const QLabel *label : labels)
+        QVERIFY(label->minimumSizeHint().height() >= label->fontMetrics().height());
 }
 
 void tst_DateTimeFace::partsFitThePanel_data()

@@ -3,8 +3,11 @@
 #include "PaintedText.h"
 
 #include <HMIDevice/DateTimeKeypad.h>
+#include <HMIDevice/KeyBoardLineEdit.h>
 
 #include <QSpinBox>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 // The date-time keypad's values can be read on every panel: those in its fields, which draw nothing
 // smaller, and the composed one above them.
@@ -39,6 +42,19 @@ Ink inkOfLine(QLineEdit *line)
     line->blockSignals(blocked);
     return inkBetween(withText, withoutText);
 }
+
+// A line of Qt's own that tells what of its width is frame.
+class MeasuredLine : public QLineEdit
+{
+public:
+    int frame() const
+    {
+        QStyleOptionFrame option;
+        initStyleOption(&option);
+        return width()
+            - style()->subElementRect(QStyle::SE_LineEditContents, &option, this).width();
+    }
+};
 
 // The same of a line of Qt's own that has as much room as it wants.
 Ink inkOfPlainLine(const QLineEdit *line, int pixels)
@@ -81,6 +97,7 @@ private Q_SLOTS:
     void theDisplayLooksAsAnyLine();
     void aMaskedValueStaysMasked();
     void anEnabledDisplayIsAnyLine();
+    void theDisplayIsAPlainLineAsLongAsItsTextFits();
 };
 
 void tst_PaintedFields::everyFieldShowsAllDigits_data()
@@ -184,6 +201,24 @@ void tst_PaintedFields::anEnabledDisplayIsAnyLine()
     plain.resize(stage.line()->size());
     plain.ensurePolished();
     QVERIFY(pictureOf(stage.line()) == pictureOf(&plain));
+}
+
+// A line keeps two pixels free on both sides of its text.
+void tst_PaintedFields::theDisplayIsAPlainLineAsLongAsItsTextFits()
+{
+    KeyBoardLineEdit display(nullptr);
+    MeasuredLine plain;
+    plain.setText(u(value));
+    const int least = plain.fontMetrics().size(0, plain.text()).width() + plain.frame() + 4;
+    QLineEdit *const lines[] = { &display, &plain };
+    for (int width = least - 1; width <= least; ++width) {
+        for (QLineEdit *line : lines) {
+            line->setText(u(value));
+            line->setEnabled(false);
+            line->resize(width, 40);
+        }
+        QCOMPARE(pictureOf(&display) == pictureOf(&plain), width == least);
+    }
 }
 
 QTEST_MAIN(tst_PaintedFields)

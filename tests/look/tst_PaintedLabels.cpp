@@ -42,6 +42,7 @@ private Q_SLOTS:
     void howeverItIsSetUp();
     void smallRichTextHasItsColours_data();
     void smallRichTextHasItsColours();
+    void richTextDoesNotGrowWhereOthersShrink();
 };
 
 void tst_PaintedLabels::initTestCase_data()
@@ -184,15 +185,17 @@ void tst_PaintedLabels::howeverItIsSetUp_data()
         const char *name;
         Qt::Alignment alignment;
         int margin, indent, frame;
-    } setUps[] = { { "centred", Qt::AlignCenter, 0, -1, QFrame::NoFrame },
-                   { "right", Qt::AlignRight | Qt::AlignVCenter, 0, -1, QFrame::NoFrame },
-                   { "top", Qt::AlignLeft | Qt::AlignTop, 0, -1, QFrame::NoFrame },
-                   { "margin", Qt::AlignLeft | Qt::AlignVCenter, 6, -1, QFrame::NoFrame },
-                   { "indent", Qt::AlignLeft | Qt::AlignVCenter, 0, 9, QFrame::NoFrame },
-                   { "indent at the top", Qt::AlignHCenter | Qt::AlignTop, 0, 9, QFrame::NoFrame },
-                   { "indent at the bottom", Qt::AlignRight | Qt::AlignBottom, 0, 9,
-                     QFrame::NoFrame },
-                   { "frame", Qt::AlignLeft | Qt::AlignBottom, 0, 0, QFrame::Box } };
+    } setUps[] = {
+        { "centred", Qt::AlignCenter, 0, -1, QFrame::NoFrame },
+        { "right", Qt::AlignRight | Qt::AlignVCenter, 0, -1, QFrame::NoFrame },
+        { "top", Qt::AlignLeft | Qt::AlignTop, 0, -1, QFrame::NoFrame },
+        { "margin", Qt::AlignLeft | Qt::AlignVCenter, 6, -1, QFrame::NoFrame },
+        { "indent", Qt::AlignLeft | Qt::AlignVCenter, 0, 9, QFrame::NoFrame },
+        { "indent at the top", Qt::AlignHCenter | Qt::AlignTop, 0, 9, QFrame::NoFrame },
+        { "indent at the right", Qt::AlignRight | Qt::AlignVCenter, 0, 9, QFrame::NoFrame },
+        { "indent at the bottom", Qt::AlignRight | Qt::AlignBottom, 0, 9, QFrame::NoFrame },
+        { "frame", Qt::AlignLeft | Qt::AlignBottom, 0, 0, QFrame::Box }
+    };
     for (const auto &text : texts) {
         for (const auto &setUp : setUps)
             QTest::newRow(qPrintable(u(text.name) + u(", ") + u(setUp.name)))
@@ -249,6 +252,20 @@ void tst_PaintedLabels::smallRichTextHasItsColours()
     const QSet<QRgb> colours = coloursOf(inkOf(label).picture);
     QVERIFY(colours.contains(qRgb(255, 0, 64)));
     QVERIFY(colours.contains(label->palette().color(label->foregroundRole()).rgb()));
+}
+
+void tst_PaintedLabels::richTextDoesNotGrowWhereOthersShrink()
+{
+    FaceStage stage(8, QSize(272, 480));
+    stage.fillLabels(u("month:"));
+    const QList<QLabel *> labels = stage.shownLabels();
+    QLabel *rich = labels.first();
+    rich->setText(u("<i>1</i>"));
+    rich->setMinimumWidth(60);
+    QApplication::processEvents();
+    const QScopedPointer<QLabel> twin(newTwin(rich));
+    const QSize size = inkOf(twin.data()).rect.size();
+    QCOMPARE(inkOf(rich).rect.size().boundedTo(size), inkOf(rich).rect.size());
 }
 
 QTEST_MAIN(tst_PaintedLabels)
