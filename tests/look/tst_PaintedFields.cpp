@@ -56,6 +56,14 @@ public:
     }
 };
 
+int largestPixelSize(QFont font, const QString &text, int room)
+{
+    int pixels = font.pixelSize();
+    while (pixels > 0 && QFontMetrics(font).size(0, text).width() > room)
+        font.setPixelSize(qMax(1, --pixels));
+    return pixels;
+}
+
 // The same of a line of Qt's own that has as much room as it wants.
 Ink inkOfPlainLine(const QLineEdit *line, int pixels)
 {
@@ -98,6 +106,7 @@ private Q_SLOTS:
     void aMaskedValueStaysMasked();
     void anEnabledDisplayIsAnyLine();
     void theDisplayIsAPlainLineAsLongAsItsTextFits();
+    void theDisplayIsAsLargeAsItCanBe();
 };
 
 void tst_PaintedFields::everyFieldShowsAllDigits_data()
@@ -218,6 +227,27 @@ void tst_PaintedFields::theDisplayIsAPlainLineAsLongAsItsTextFits()
             line->resize(width, 40);
         }
         QCOMPARE(pictureOf(&display) == pictureOf(&plain), width == least);
+    }
+}
+
+// Widths do not quite follow the size of a font: one that looks too large may fit.
+void tst_PaintedFields::theDisplayIsAsLargeAsItCanBe()
+{
+    KeyBoardLineEdit display(nullptr);
+    display.setText(u("A"));
+    display.setEnabled(false);
+    for (int pixels = 16; pixels <= 40; ++pixels) {
+        QFont font(u("DejaVu Serif"));
+        font.setPixelSize(pixels);
+        display.setFont(font);
+        for (int room = 9; room <= 24; ++room) {
+            display.resize(room + MeasuredLine().frame() + 4, 80);
+            const int largest = largestPixelSize(font, display.text(), room);
+            if (largest < 8)
+                continue;
+            QCOMPARE(inkOfLine(&display).rect.size(),
+                     inkOfPlainLine(&display, largest).rect.size());
+        }
     }
 }
 
