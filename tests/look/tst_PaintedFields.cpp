@@ -5,6 +5,7 @@
 #include <HMIDevice/DateTimeKeypad.h>
 #include <HMIDevice/KeyBoardLineEdit.h>
 
+#include <QFontMetrics>
 #include <QSpinBox>
 #include <QStyle>
 #include <QStyleOptionFrame>

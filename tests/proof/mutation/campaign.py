@@ -154,7 +154,7 @@ class Campaign:
     # A suite that has changed may no longer notice what it did.
     def still_holds(self, result):
         if result["outcome"] == "killed":
-            return result["program"] == self.reach.programs.get(result["by"])
+            return result.get("program") == self.reach.programs.get(result["by"], "")
         return result["outcome"] != "survived"
 
     # Other work on the machine can slow a suite down once.
